@@ -1,0 +1,26 @@
+// How much larger than the reference the display draws.
+#ifndef KORVANE_DPI_INTERFACE_H_
+#define KORVANE_DPI_INTERFACE_H_
+
+class DPIInterface {
+ public:
+  // The default screen's dots per inch, across, divided by the reference DPI,
+  // truncated to two decimal places: 1.33 for 128 DPI. 1.0 without a display
+  // and for a screen without a physical size.
+  //
+  // The display connection that a call opens stays open.
+  static double GetMonitorDPIFactor();
+  // The same as GetMonitorDPIFactor.
+  static double GetSysDPIFactor();
+
+  static bool GetDPIAwareSupport();
+
+  // Sets the reference DPI, 96 at first, for the whole process; 0 and negative
+  // values are ignored.
+  static void SetDefaultDPI(int dpi);
+
+ private:
+  static int s_default_dpi;
+};
+
+#endif  // KORVANE_DPI_INTERFACE_H_

@@ -1,0 +1,99 @@
+#include <string_view>
+
+#include "host/korvane_host.h"
+#include "text/iconv_conversion.h"
+#include "text/utf8.h"
+
+namespace {
+
+using qk::text::convert;
+using qk::text::decode_utf8;
+using qk::text::encode_utf8;
+
+struct CodePage {
+  int number;
+  const char* name;  // as iconv knows it
+};
+
+constexpr int kUtf8 = 65001;
+
+constexpr CodePage kCodePages[] = {
+    {866, "CP866"},         {874, "CP874"},         {932, "CP932"},
+    {936, "GBK"},           {949, "CP949"},         {950, "CP950"},
+    {1250, "CP1250"},       {1251, "CP1251"},       {1252, "MS-ANSI"},
+    {1253, "CP1253"},       {1254, "CP1254"},       {1255, "CP1255"},
+    {1256, "CP1256"},       {1257, "CP1257"},       {1258, "CP1258"},
+    {20866, "KOI8-R"},      {21866, "KOI8-U"},      {28591, "ISO-8859-1"},
+    {28592, "ISO-8859-2"},  {28593, "ISO-8859-3"},  {28594, "ISO-8859-4"},
+    {28595, "ISO-8859-5"},  {28596, "ISO-8859-6"},  {28597, "ISO-8859-7"},
+    {28598, "ISO-8859-8"},  {28599, "ISO-8859-9"},  {28600, "ISO-8859-10"},
+    {28601, "ISO-8859-11"}, {28603, "ISO-8859-13"}, {28604, "ISO-8859-14"},
+    {28605, "ISO-8859-15"}, {28606, "ISO-8859-16"}, {54936, "GB18030"},
+};
+
+const char* iconv_name(int code_page) {
+  for (const CodePage& known : kCodePages) {
+    if (known.number == code_page) return known.name;
+  }
+  return nullptr;
+}
+
+// Some of these sets combine two characters into one or split one into two,
+// never more: twice the bytes is room enough.
+bool convert_bytes(const char* from, std::string_view bytes,
+                   std::wstring& wide) {
+  return convert("WCHAR_T", from, bytes.data(), bytes.size(),
+                 2 * bytes.size() + 1, wide);
+}
+
+bool is_ascii(std::string_view bytes) {
+  unsigned char seen = 0;
+  for (const char byte : bytes) seen |= static_cast<unsigned char>(byte);
+  return seen < 0x80;
+}
+
+std::wstring decode_default(std::string_view bytes) {
+  std::wstring wide;
+  if (decode_utf8(bytes, wide)) return wide;
+  if (convert_bytes("GBK", bytes, wide)) return wide;
+  convert_bytes("MS-ANSI", bytes, wide);
+  return wide;
+}
+
+std::wstring decode(std::string_view bytes, int code_page) {
+  std::wstring wide;
+  if (code_page == kUtf8) {
+    decode_utf8(bytes, wide);
+  } else if (const char* name = iconv_name(code_page)) {
+    convert_bytes(name, bytes, wide);
+  } else {
+    return decode_default(bytes);
+  }
+  return wide;
+}
+
+}  // namespace
+
+std::string wstring_2_utf8(const std::wstring& text) {
+  std::string utf8;
+  encode_utf8(std::wstring_view(text).substr(0, text.find(L'\0')), utf8);
+  return utf8;
+}
+
+std::string wstring_2_string(const std::wstring& text) {
+  return wstring_2_utf8(text);
+}
+
+std::wstring string_2_wstring(const std::string& text) {
+  return string_to_wstring_with_code_page(text, 0);
+}
+
+std::wstring string_to_wstring_with_code_page(const std::string& text,
+                                              int code_page) {
+  const std::string_view bytes(text.data(), text.find('\0') < text.size()
+                                                ? text.find('\0')
+                                                : text.size());
+  // Every code page here agrees with ASCII.
+  if (is_ascii(bytes)) return std::wstring(bytes.begin(), bytes.end());
+  return decode(bytes, code_page);
+}
