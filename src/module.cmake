@@ -28,6 +28,7 @@ target_compile_definitions(korvane_script PRIVATE
 
 add_library(KorvaneHelper MODULE korvane_helper.cc
   $<TARGET_OBJECTS:korvane_text>
+  $<TARGET_OBJECTS:korvane_url>
   $<TARGET_OBJECTS:korvane_system>
   $<TARGET_OBJECTS:korvane_script>)
 target_include_directories(KorvaneHelper PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
