@@ -1,0 +1,41 @@
+'use strict';
+
+// What the module registers, before any function is called.
+
+const fs = require('fs');
+const os = require('os');
+const path = require('path');
+const { execFileSync } = require('child_process');
+const { assert, helper, test } = require('./harness');
+
+const names = fs.readFileSync(
+  path.join(__dirname, '../data/script_names.txt'), 'utf8').trim().split('\n');
+
+test('the exports are the 163 names in order', () => {
+  assert.strictEqual(names.length, 163);
+  assert.deepStrictEqual(Object.keys(helper), names);
+});
+
+test('every function carries its name and can be replaced', () => {
+  for (const name of names) {
+    assert.strictEqual(typeof helper[name], 'function');
+    assert.strictEqual(helper[name].name, name);
+    const property = Object.getOwnPropertyDescriptor(helper, name);
+    assert(property.writable && property.configurable, name);
+  }
+});
+
+test('the module loads from a folder with nothing but its two files', () => {
+  const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'korvane-'));
+  const built = path.dirname(process.env.KORVANE_MODULE);
+  const files = ['KorvaneHelper.node', 'libkorvane_host.so'];
+  for (const file of files) {
+    fs.copyFileSync(path.join(built, file), path.join(folder, file));
+  }
+  const script = 'console.log(Object.keys(require("./KorvaneHelper")).length)';
+  const printed = execFileSync(process.execPath, ['-e', script],
+    { cwd: folder, env: {}, encoding: 'utf8' });
+  for (const file of files) fs.unlinkSync(path.join(folder, file));
+  fs.rmdirSync(folder);
+  assert.strictEqual(printed, '163\n');
+});
