@@ -1,5 +1,4 @@
 # KorvaneHelper.node: the script functions, and the link library carried whole.
-find_package(X11 REQUIRED)
 if(NOT EXISTS ${KORVANE_NODE_DIR}/include/node/node.h)
   message(FATAL_ERROR
     "No runtime headers in KORVANE_NODE_DIR=${KORVANE_NODE_DIR}: "

@@ -1,0 +1,73 @@
+// Gives a script the completion functions, which nothing on this platform
+// calls. The last argument of each becomes its holder.
+#include "korvane_helper.h"
+
+namespace {
+
+template <typename Value>
+std::vector<Value> read_list(const v8::Local<v8::Value>& list) {
+  const v8::Local<v8::Array> array = list.As<v8::Array>();
+  const auto context = v8::Isolate::GetCurrent()->GetCurrentContext();
+  std::vector<Value> values;
+  for (std::uint32_t i = 0; i < array->Length(); ++i) {
+    const auto element = array->Get(context, i).ToLocalChecked();
+    if constexpr (std::is_same_v<Value, std::wstring>) {
+      values.emplace_back();
+      for (const std::int32_t unit : read_list<std::int32_t>(element)) {
+        values.back().push_back(static_cast<wchar_t>(unit));
+      }
+    } else {
+      values.push_back(element->Int32Value(context).FromJust());
+    }
+  }
+  return values;
+}
+
+// "none" is no holder, "no isolate" one that lacks it; anything that is no
+// function makes a holder without one.
+CallbackHolder* holder(const Arguments& arguments) {
+  const v8::Local<v8::Value> last = arguments[arguments.Length() - 1];
+  const std::string kind = *v8::String::Utf8Value(last);
+  if (kind == "none") return nullptr;
+  return new CallbackHolder(
+      kind == "no isolate" ? nullptr : arguments.GetIsolate(), last);
+}
+
+// onIsSSD(success, values, callback)
+void on_is_ssd(const Arguments& arguments) {
+  answer_integer(arguments,
+                 KorvaneHelper::OnIsSSD(7, arguments[0]->IsTrue(),
+                                        read_list<std::int32_t>(arguments[1]),
+                                        holder(arguments)));
+}
+
+// onGetDriveMediaType(success, type, callback)
+void on_get_drive_media_type(const Arguments& arguments) {
+  answer_integer(arguments, KorvaneHelper::OnGetDriveMediaType(
+                                read_int32(arguments, 0),
+                                read_int32(arguments, 1), holder(arguments)));
+}
+
+// onGetCpuList(names, callback): a name is a list of wide units.
+void on_get_cpu_list(const Arguments& arguments) {
+  answer_integer(arguments, KorvaneHelper::OnGetCpuList(
+                                7, read_list<std::wstring>(arguments[0]),
+                                holder(arguments)));
+}
+
+void on_get_app_list(const Arguments& arguments) {
+  answer_integer(arguments, KorvaneHelper::OnGetAppList(
+                                7, read_list<std::wstring>(arguments[0]),
+                                holder(arguments)));
+}
+
+void register_functions(v8::Local<v8::Object> exports) {
+  NODE_SET_METHOD(exports, "onIsSSD", on_is_ssd);
+  NODE_SET_METHOD(exports, "onGetDriveMediaType", on_get_drive_media_type);
+  NODE_SET_METHOD(exports, "onGetCpuList", on_get_cpu_list);
+  NODE_SET_METHOD(exports, "onGetAppList", on_get_app_list);
+}
+
+}  // namespace
+
+NODE_MODULE(completions, register_functions)
