@@ -18,5 +18,6 @@ if(KORVANE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined,integer
     -fno-sanitize-recover=all -fno-omit-frame-pointer -funsigned-char
     -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/sanitizer_ignorelist.txt)
+  add_compile_definitions(KORVANE_SANITIZED)
   add_link_options(-fsanitize=address,undefined,integer)
 endif()

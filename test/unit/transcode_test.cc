@@ -1,1 +1,317 @@
+#include "text/transcode.h"
+
 #include <gtest/gtest.h>
+
+#include <clocale>
+#include <cstdint>
+#include <cwchar>
+#include <string>
+
+#include "exact_copy.h"
+
+namespace {
+
+using qk::text::transcode;
+
+// --- Slow references, independent of iconv
+
+constexpr std::uint32_t kLast = 0x10FFFF;
+
+// The character to try after `code`: every one, except that a sanitized build,
+// much slower here, takes samples beyond the basic plane.
+std::uint32_t next(std::uint32_t code) {
+#ifdef KORVANE_SANITIZED
+  if (code >= 0x10000) return code + 37;
+#endif
+  return code + 1;
+}
+
+bool is_surrogate(std::uint32_t code) { return code >> 11 == 0x1B; }
+
+std::string utf8_of(std::uint32_t code) {
+  const auto byte = [](std::uint32_t value) {
+    return static_cast<char>(static_cast<unsigned char>(value));
+  };
+  if (code < 0x80) return {byte(code)};
+  if (code < 0x800) return {byte(0xC0 + code / 64), byte(0x80 + code % 64)};
+  if (code < 0x10000) {
+    return {byte(0xE0 + code / 4096), byte(0x80 + code / 64 % 64),
+            byte(0x80 + code % 64)};
+  }
+  return {byte(0xF0 + code / 262144), byte(0x80 + code / 4096 % 64),
+          byte(0x80 + code / 64 % 64), byte(0x80 + code % 64)};
+}
+
+// Western (1252): Latin-1 but for these; 0 is a byte without a character.
+constexpr std::uint32_t kWestern[32] = {
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+std::uint32_t western_character(unsigned byte) {
+  return byte >> 5 == 4 ? kWestern[byte - 0x80] : byte;
+}
+
+std::string western_of(std::uint32_t code) {
+  for (unsigned byte = 1; byte < 256; ++byte) {
+    if (western_character(byte) == code) return {static_cast<char>(byte)};
+  }
+  return {};
+}
+
+// The C library's own GBK, one character at a time, through a locale.
+class GbkLocale {
+ public:
+  GbkLocale() : previous_(std::setlocale(LC_CTYPE, nullptr)) {
+    EXPECT_NE(std::setlocale(LC_CTYPE, "zh_CN.GBK"), nullptr);
+  }
+  ~GbkLocale() { std::setlocale(LC_CTYPE, previous_.c_str()); }
+  GbkLocale(const GbkLocale&) = delete;
+  GbkLocale& operator=(const GbkLocale&) = delete;
+
+  static std::string encode(std::uint32_t code) {
+    char bytes[16];
+    std::mbstate_t state{};
+    const std::size_t size =
+        std::wcrtomb(bytes, static_cast<wchar_t>(code), &state);
+    return size == static_cast<std::size_t>(-1) ? "" : std::string(bytes, size);
+  }
+
+  // 0 for bytes that are no character.
+  static std::uint32_t decode(const std::string& bytes) {
+    wchar_t character = 0;
+    std::mbstate_t state{};
+    const std::size_t size =
+        std::mbrtowc(&character, bytes.data(), bytes.size(), &state);
+    return size == bytes.size() ? static_cast<std::uint32_t>(character) : 0;
+  }
+
+ private:
+  std::string previous_;
+};
+
+// --- One converter, called on text of exactly its size
+
+template <typename Out, typename In>
+using Function = void (*)(const In*, unsigned, std::basic_string<Out>&);
+
+template <typename Out, typename In>
+std::basic_string<Out> run(Function<Out, In> function,
+                           const std::basic_string<In>& text) {
+  const ExactCopy<In> copy{std::basic_string_view<In>(text)};
+  std::basic_string<Out> out(3, Out('!'));
+  function(copy.data(), static_cast<unsigned>(copy.size()), out);
+  return out;
+}
+
+std::wstring wide(std::uint32_t code) {
+  return std::wstring(1, static_cast<wchar_t>(code));
+}
+
+TEST(Transcode, EveryCharacterToAndFromUtf8) {
+  for (std::uint32_t code = 1; code <= kLast; code = next(code)) {
+    if (is_surrogate(code)) continue;
+    const std::string utf8 = utf8_of(code);
+    ASSERT_EQ(run(&transcode::Unicode_to_UTF8, wide(code)), utf8) << code;
+    ASSERT_EQ(run(&transcode::UTF8_to_Unicode, utf8), wide(code)) << code;
+  }
+}
+
+TEST(Transcode, EveryCharacterToGbkAndAnsi) {
+  const GbkLocale locale;
+  for (std::uint32_t code = 1; code <= kLast; code = next(code)) {
+    if (is_surrogate(code)) continue;
+    const std::string gbk = GbkLocale::encode(code);
+    ASSERT_EQ(run(&transcode::Unicode_to_GBK, wide(code)), gbk) << code;
+    ASSERT_EQ(run(&transcode::UTF8_to_GBK, utf8_of(code)), gbk) << code;
+    ASSERT_EQ(run(&transcode::Unicode_to_ANSI, wide(code)),
+              code <= 0x2122 ? western_of(code) : "")
+        << code;
+  }
+}
+
+TEST(Transcode, EveryGbkAndAnsiSequence) {
+  const GbkLocale locale;
+  for (unsigned first = 1; first < 256; ++first) {
+    const std::string byte(1, static_cast<char>(first));
+    const std::uint32_t western = western_character(first);
+    ASSERT_EQ(run(&transcode::ANSI_to_Unicode, byte),
+              western == 0 ? L"" : wide(western));
+    for (unsigned second = 1; second < 256; ++second) {
+      const std::string pair = byte + static_cast<char>(second);
+      if (GbkLocale::decode(byte) != 0) continue;
+      const std::uint32_t code = GbkLocale::decode(pair);
+      ASSERT_EQ(run(&transcode::GBK_to_Unicode, pair),
+                code == 0 ? L"" : wide(code));
+      ASSERT_EQ(run(&transcode::GBK_to_UTF8, pair),
+                code == 0 ? "" : utf8_of(code));
+    }
+  }
+}
+
+// --- Rules that hold for single texts
+
+struct NarrowCase {
+  Function<char, char> function;
+  std::string text;
+  std::string want;
+};
+
+const std::string kSmile = "\xF0\x9F\x98\x80";
+const std::wstring kWideSmile = L"\U0001F600";
+
+TEST(Transcode, NarrowToNarrow) {
+  const NarrowCase kCases[] = {
+      {&transcode::GBK_to_UTF8, "a\xD6\xD0", "a\xE4\xB8\xAD"},
+      {&transcode::UTF8_to_GBK,
+       "\xE4\xB8\xAD"
+       "a",
+       "\xD6\xD0"
+       "a"},
+      // A conversion ends at a zero byte, at bad and at incomplete input, and
+      // at what the target lacks.
+      {&transcode::GBK_to_UTF8, std::string("A\0B", 3), "A"},
+      {&transcode::UTF8_to_GBK, std::string("A\0B", 3), "A"},
+      {&transcode::GBK_to_UTF8,
+       "a\xFF"
+       "b",
+       "a"},
+      {&transcode::GBK_to_UTF8, "a\xD6", "a"},
+      {&transcode::UTF8_to_GBK, "a\xE4\xB8", "a"},
+      {&transcode::UTF8_to_GBK, "a\xED\xA0\x80", "a"},
+      {&transcode::UTF8_to_GBK, "ab" + kSmile + "c", "ab"},
+      // The tstring family: GBK where it meets UTF-8 or GBK; copies keep zeros.
+      {&transcode::UTF8_to_tstring, "\xE4\xB8\xAD", "\xD6\xD0"},
+      {&transcode::tstring_to_UTF8, "\xD6\xD0", "\xE4\xB8\xAD"},
+      {&transcode::tstring_to_GBK, std::string("A\0\xFF", 3),
+       std::string("A\0\xFF", 3)},
+      {&transcode::GBK_to_tstring, std::string("A\0\xFF", 3),
+       std::string("A\0\xFF", 3)},
+      {&transcode::tstring_to_ANSI, std::string("A\0\xFF", 3),
+       std::string("A\0\xFF", 3)},
+      {&transcode::ANSI_to_tstring, std::string("A\0\xFF", 3),
+       std::string("A\0\xFF", 3)},
+  };
+  for (const NarrowCase& test : kCases) {
+    EXPECT_EQ(run(test.function, test.text), test.want)
+        << "row " << &test - kCases;
+  }
+}
+
+TEST(Transcode, NarrowToWide) {
+  const struct {
+    Function<wchar_t, char> function;
+    std::string text;
+    std::wstring want;
+  } kCases[] = {
+      {&transcode::UTF8_to_Unicode,
+       "ab\xFF"
+       "cd",
+       L"ab"},
+      {&transcode::UTF8_to_Unicode, kSmile + "a", L"\U0001F600a"},
+      {&transcode::UTF8_to_Unicode, "a" + kSmile.substr(0, 3), L"a"},
+      {&transcode::UTF8_to_Unicode, std::string("A\0B", 3), L"A"},
+      {&transcode::GBK_to_Unicode, "\xD6\xD0\xB9\xFA", L"\u4E2D\u56FD"},
+      {&transcode::GBK_to_Unicode, "a\xD6", L"a"},
+      {&transcode::ANSI_to_Unicode, "caf\xE9\x80", L"caf\u00E9\u20AC"},
+      {&transcode::ANSI_to_Unicode,
+       "a\x81"
+       "b",
+       L"a"},
+      {&transcode::UTF8_to_tstring, "\xC3\xA9", L"\u00E9"},
+      {&transcode::GBK_to_tstring, "\xD6\xD0", L"\u4E2D"},
+      {&transcode::tstring_to_Unicode, "\xE9", L"\u00E9"},
+      {&transcode::ANSI_to_tstring, "\xE9", L"\u00E9"},
+  };
+  for (const auto& test : kCases) {
+    EXPECT_EQ(run(test.function, test.text), test.want)
+        << "row " << &test - kCases;
+  }
+}
+
+TEST(Transcode, WideToNarrow) {
+  const struct {
+    Function<char, wchar_t> function;
+    std::wstring text;
+    std::string want;
+  } kCases[] = {
+      // Three bytes a character and one: several smiles do not fit.
+      {&transcode::Unicode_to_UTF8, kWideSmile, kSmile},
+      {&transcode::Unicode_to_UTF8, kWideSmile + kWideSmile, kSmile},
+      {&transcode::Unicode_to_UTF8, kWideSmile + L"a" + kWideSmile,
+       kSmile + "a" + kSmile},
+      {&transcode::Unicode_to_UTF8,
+       kWideSmile + kWideSmile + kWideSmile + kWideSmile,
+       kSmile + kSmile + kSmile},
+      {&transcode::Unicode_to_UTF8, std::wstring(L"A\0B", 3), "A"},
+      {&transcode::Unicode_to_UTF8, {L'a', wchar_t(0xD800), L'b'}, "a"},
+      {&transcode::Unicode_to_UTF8, {L'a', wchar_t(0xFFFFFFFF)}, "a"},
+      {&transcode::Unicode_to_GBK, L"\u4E2Da" + kWideSmile,
+       "\xD6\xD0"
+       "a"},
+      {&transcode::Unicode_to_GBK, L"\u4E2D\u4E2D\u4E2D",
+       "\xD6\xD0\xD6\xD0\xD6\xD0"},
+      {&transcode::Unicode_to_ANSI, L"\u00E9", "\xE9"},
+      {&transcode::Unicode_to_ANSI, L"\u4E2D", ""},
+      {&transcode::Unicode_to_ANSI, L"a\u20AC\u4E2D", "a\x80"},
+      {&transcode::tstring_to_UTF8, L"\u00E9", "\xC3\xA9"},
+      {&transcode::tstring_to_GBK, L"\u4E2D", "\xD6\xD0"},
+      {&transcode::Unicode_to_tstring, L"\u00E9", "\xE9"},
+      {&transcode::tstring_to_ANSI, L"\u00E9", "\xE9"},
+  };
+  for (const auto& test : kCases) {
+    EXPECT_EQ(run(test.function, test.text), test.want)
+        << "row " << &test - kCases;
+  }
+}
+
+TEST(Transcode, WideCopiesKeepEveryUnit) {
+  const std::wstring text = {L'A', L'\0', wchar_t(0xD800), wchar_t(0xFFFFFFFF)};
+  EXPECT_EQ((run<wchar_t, wchar_t>(&transcode::tstring_to_Unicode, text)),
+            text);
+  EXPECT_EQ((run<wchar_t, wchar_t>(&transcode::Unicode_to_tstring, text)),
+            text);
+}
+
+TEST(Transcode, NoTextEmptiesTheOutput) {
+  const std::string narrow = "a";
+  const std::wstring wide = L"a";
+  const Function<char, char> kNarrow[] = {&transcode::GBK_to_UTF8,
+                                          &transcode::UTF8_to_GBK};
+  const Function<wchar_t, char> kToWide[] = {&transcode::UTF8_to_Unicode,
+                                             &transcode::GBK_to_Unicode,
+                                             &transcode::ANSI_to_Unicode};
+  const Function<char, wchar_t> kFromWide[] = {&transcode::Unicode_to_UTF8,
+                                               &transcode::Unicode_to_GBK,
+                                               &transcode::Unicode_to_ANSI};
+  const auto expect_empty = [](const auto& functions, const auto& text,
+                               auto out) {
+    const auto old = out;
+    for (const auto function : functions) {
+      out = old;
+      function(nullptr, 1, out);
+      EXPECT_TRUE(out.empty());
+      out = old;
+      function(text.data(), 0, out);
+      EXPECT_TRUE(out.empty());
+    }
+  };
+  expect_empty(kNarrow, narrow, std::string("old"));
+  expect_empty(kToWide, narrow, std::wstring(L"old"));
+  expect_empty(kFromWide, wide, std::string("old"));
+}
+
+TEST(Transcode, LongTextsAndTextInsideTheOutput) {
+  const std::string utf8(100000, 'x');
+  EXPECT_EQ(run<char>(&transcode::UTF8_to_GBK, utf8), utf8);
+  std::string text =
+      "\xE4\xB8\xAD"
+      "abc";
+  transcode::UTF8_to_GBK(text.data(), 6, text);
+  EXPECT_EQ(text,
+            "\xD6\xD0"
+            "abc");
+}
+
+}  // namespace
