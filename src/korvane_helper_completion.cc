@@ -44,7 +44,7 @@ int KorvaneHelper::OnGetCpuList(std::int32_t,
   const auto list = v8::Array::New(isolate, static_cast<int>(names.size()));
   std::uint32_t index = 0;
   for (const std::wstring& name : names) {
-    const auto units = reinterpret_cast<const std::uint16_t*>(name.c_str());
+    const auto* units = reinterpret_cast<const std::uint16_t*>(name.c_str());
     store(isolate, list, index++, make_text(isolate, units));
   }
   v8::Local<v8::Value> results[] = {list};

@@ -91,7 +91,7 @@ std::string LinuxShell::MacId::GetMacAddr() {
   if (!request(socket, SIOCGIFHWADDR, interface, 162)) return {};
   std::array<unsigned char, 6> address;
   std::memcpy(address.data(), interface.ifr_hwaddr.sa_data, address.size());
-  const std::string text = hexadecimal(address.data());
+  std::string text = hexadecimal(address.data());
   std::printf("device mac: %s\n", text.c_str());
   return text;
 }
@@ -108,7 +108,7 @@ std::string LinuxShell::MacId::GetIp() {
   address.sin_family = AF_INET;
   address.sin_port = htons(7778);
   address.sin_addr.s_addr = htonl(INADDR_ANY);
-  const auto bare = reinterpret_cast<sockaddr*>(&address);
+  auto* const bare = reinterpret_cast<sockaddr*>(&address);
   if (bind(socket.descriptor(), bare, sizeof(address)) != 0) return {};
 
   address.sin_addr.s_addr = htonl(INADDR_BROADCAST);
@@ -120,7 +120,7 @@ std::string LinuxShell::MacId::GetIp() {
   recvfrom(socket.descriptor(), datagram.data(), datagram.size(), 0,
            reinterpret_cast<sockaddr*>(&sender), &sender_size);
 
-  const std::string dotted = inet_ntoa(sender.sin_addr);
+  std::string dotted = inet_ntoa(sender.sin_addr);
   if (dotted.size() >= kScratchSize) {
     std::fputs("GetIp: the address is longer than 12 characters\n", stderr);
     std::abort();
