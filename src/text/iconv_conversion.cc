@@ -31,7 +31,10 @@ class Converter {
   }
 
  private:
-  bool is_open() const { return descriptor_ != reinterpret_cast<iconv_t>(-1); }
+  bool is_open() const {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the way iconv_open fails
+    return descriptor_ != reinterpret_cast<iconv_t>(-1);
+  }
 
   iconv_t descriptor_;
 };
