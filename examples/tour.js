@@ -34,6 +34,7 @@ show('getFileVersion()');
 
 heading('Reachability: does the host of a URL resolve?');
 show('isPingHostValid("http://localhost/file.zip")');
+show('isPingHostValid("https://127.0.0.1/")');
 show('isPingHostValid("http://no-such-host.invalid/")');
 
 heading('Collation: the second text against the first');
