@@ -8,7 +8,8 @@ double DPIInterface::GetMonitorDPIFactor() {
   constexpr double kMillimetresPerInch = 25.4;
   Display* display = XOpenDisplay(nullptr);
   if (display == nullptr) return 1.0;
-  // The connection is left open (kept: hosts count on the display staying up).
+  // Not closed (kept: callers rely on a server that ends with its last client
+  // staying up).
   const int screen = DefaultScreen(display);
   const int pixels = DisplayWidth(display, screen);
   const int millimetres = DisplayWidthMM(display, screen);

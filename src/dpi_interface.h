@@ -8,7 +8,8 @@ class DPIInterface {
   // truncated to two decimal places: 1.33 for 128 DPI. 1.0 without a display
   // and for a screen without a physical size.
   //
-  // The display connection that a call opens stays open.
+  // The display connection that a call opens stays open. A server takes some
+  // 250 of them; after that it refuses this process and the factor is 1.0.
   static double GetMonitorDPIFactor();
   // The same as GetMonitorDPIFactor.
   static double GetSysDPIFactor();

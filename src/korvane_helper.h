@@ -167,7 +167,8 @@ class KorvaneHelper {
 
   // --- Completions (korvane_helper_completion.cc)
   //
-  // For a platform worker that delivers results later, on the script thread.
+  // For a platform worker that delivers results later, on the script thread and
+  // with a context entered.
   // Each calls the holder's function once, then frees the holder; without a
   // holder it does nothing. Each returns 0.
 

@@ -1,6 +1,6 @@
 // Shell, processes and files. Only the first two functions do anything here;
 // the others test and read what the desktop product tests and reads, then
-// answer a constant.
+// answer a constant. A test on which nothing depends is left out.
 #include <array>
 #include <cstdio>
 #include <cstdlib>

@@ -1,5 +1,5 @@
 // Facts about the machine and the desktop. Only the display scale is a real
-// query here.
+// query here; functions given to the others are neither kept nor called.
 #include <cmath>
 #include <limits>
 

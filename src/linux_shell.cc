@@ -13,7 +13,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <utility>
 
 // Assertions hold in release builds too.
 #undef NDEBUG
@@ -117,9 +116,10 @@ std::string LinuxShell::MacId::GetIp() {
   std::array<char, 1024> datagram;
   sockaddr_in sender{};
   socklen_t sender_size = sizeof(sender);
-  recvfrom(socket.descriptor(), datagram.data(), datagram.size(), 0,
-           reinterpret_cast<sockaddr*>(&sender), &sender_size);
-
+  if (recvfrom(socket.descriptor(), datagram.data(), datagram.size(), 0,
+               reinterpret_cast<sockaddr*>(&sender), &sender_size) < 0) {
+    return {};
+  }
   std::string dotted = inet_ntoa(sender.sin_addr);
   if (dotted.size() >= kScratchSize) {
     std::fputs("GetIp: the address is longer than 12 characters\n", stderr);

@@ -5,9 +5,9 @@ if(NOT EXISTS ${KORVANE_NODE_DIR}/include/node/node.h)
     "run 'npm ci', or name a folder that holds include/node/node.h")
 endif()
 
-add_library(korvane_system OBJECT dpi_interface.cc linux_shell.cc x_window.cc)
-target_include_directories(korvane_system PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
-target_link_libraries(korvane_system PUBLIC X11::X11)
+add_layer(korvane_machine linux_shell.cc)
+add_layer(korvane_display dpi_interface.cc x_window.cc)
+target_link_libraries(korvane_display PUBLIC X11::X11)
 
 add_library(korvane_script OBJECT
   callback_holder.cc
@@ -28,7 +28,8 @@ target_compile_definitions(korvane_script PRIVATE
 add_library(KorvaneHelper MODULE korvane_helper.cc
   $<TARGET_OBJECTS:korvane_text>
   $<TARGET_OBJECTS:korvane_url>
-  $<TARGET_OBJECTS:korvane_system>
+  $<TARGET_OBJECTS:korvane_machine>
+  $<TARGET_OBJECTS:korvane_display>
   $<TARGET_OBJECTS:korvane_script>)
 target_include_directories(KorvaneHelper PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_include_directories(KorvaneHelper SYSTEM PRIVATE

@@ -22,7 +22,8 @@ class Utf16Text {
   v8::String::Value value_;
 };
 
-// Writes at most `limit` bytes of UTF-8, whole characters only.
+// Writes at most `limit` bytes of UTF-8. A unit that does not fit is left out
+// whole; of a surrogate pair that does not, the first may be written alone.
 inline void write_utf8(v8::Isolate*, v8::Local<v8::String> text, char* out,
                        int limit) {
   text->WriteUtf8(out, limit);

@@ -84,15 +84,15 @@ class Utf8Argument {
 };
 
 // Converts the arguments 0 to count - 1 to text, in this order, and lets them
-// go: a script can watch its objects being converted, so functions that answer
-// the same for every text still read it.
+// go: what functions do that answer the same for every text. A script can
+// watch it where the arguments may be objects.
 void read_and_drop_texts(const Arguments& arguments, int count);
 
 // Any argument as a number; not-a-number when it has none.
 double read_number(const Arguments& arguments, int index);
 
-// A number argument as 32 bits: truncated toward zero and wrapped modulo 2^32;
-// 0 for not-a-number and the infinities.
+// An argument that was tested to be a number, as 32 bits: truncated toward zero
+// and wrapped modulo 2^32; 0 for not-a-number and the infinities.
 std::int32_t read_int32(const Arguments& arguments, int index);
 std::uint32_t read_uint32(const Arguments& arguments, int index);
 

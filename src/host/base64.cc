@@ -1,4 +1,5 @@
 #include <cstddef>
+#include <utility>
 
 #include "host/korvane_host.h"
 

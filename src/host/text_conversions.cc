@@ -38,12 +38,11 @@ const char* iconv_name(int code_page) {
   return nullptr;
 }
 
-// Some of these sets combine two characters into one or split one into two,
-// never more: twice the bytes is room enough.
+// No set here gives more characters than it has bytes.
 bool convert_bytes(const char* from, std::string_view bytes,
                    std::wstring& wide) {
-  return convert("WCHAR_T", from, bytes.data(), bytes.size(),
-                 2 * bytes.size() + 1, wide);
+  return convert("WCHAR_T", from, bytes.data(), bytes.size(), bytes.size() + 1,
+                 wide, qk::text::Ending::kFlushed);
 }
 
 bool is_ascii(std::string_view bytes) {
@@ -90,9 +89,8 @@ std::wstring string_2_wstring(const std::string& text) {
 
 std::wstring string_to_wstring_with_code_page(const std::string& text,
                                               int code_page) {
-  const std::string_view bytes(text.data(), text.find('\0') < text.size()
-                                                ? text.find('\0')
-                                                : text.size());
+  const std::string_view bytes =
+      std::string_view(text).substr(0, text.find('\0'));
   // Every code page here agrees with ASCII.
   if (is_ascii(bytes)) return std::wstring(bytes.begin(), bytes.end());
   return decode(bytes, code_page);

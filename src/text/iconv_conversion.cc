@@ -19,14 +19,15 @@ class Converter {
 
   // Converts in one call; true when it took the whole input.
   bool run(const char* input, std::size_t input_size, char* output,
-           std::size_t output_size) const {
+           std::size_t output_size, Ending ending) const {
     if (!is_open()) return false;
     // iconv does not write to its input; its parameter type predates const.
     char* source = const_cast<char*>(input);
     const bool whole = iconv(descriptor_, &source, &input_size, &output,
                              &output_size) != kFailed;
-    // Sets that compose characters hold the last one back until asked.
-    iconv(descriptor_, nullptr, nullptr, &output, &output_size);
+    if (ending == Ending::kFlushed) {
+      iconv(descriptor_, nullptr, nullptr, &output, &output_size);
+    }
     return whole;
   }
 
@@ -44,11 +45,11 @@ class Converter {
 template <typename In, typename Out>
 bool convert(const char* to, const char* from, const In* input,
              std::size_t length, std::size_t room,
-             std::basic_string<Out>& output) {
+             std::basic_string<Out>& output, Ending ending) {
   std::basic_string<Out> buffer(room, Out());
   const bool whole = Converter(to, from).run(
       reinterpret_cast<const char*>(input), length * sizeof(In),
-      reinterpret_cast<char*>(buffer.data()), room * sizeof(Out));
+      reinterpret_cast<char*>(buffer.data()), room * sizeof(Out), ending);
   // A result that fills its room has no terminator: the room bounds it.
   const std::size_t end = buffer.find(Out());
   output.assign(buffer, 0, end);
@@ -56,10 +57,10 @@ bool convert(const char* to, const char* from, const In* input,
 }
 
 template bool convert(const char*, const char*, const char*, std::size_t,
-                      std::size_t, std::string&);
+                      std::size_t, std::string&, Ending);
 template bool convert(const char*, const char*, const char*, std::size_t,
-                      std::size_t, std::wstring&);
+                      std::size_t, std::wstring&, Ending);
 template bool convert(const char*, const char*, const wchar_t*, std::size_t,
-                      std::size_t, std::string&);
+                      std::size_t, std::string&, Ending);
 
 }  // namespace qk::text

@@ -7,6 +7,10 @@
 
 namespace qk::text {
 
+// Whether a converter is asked, at the end, for what it holds back: some sets
+// compose characters and so keep the last one until they know what follows.
+enum class Ending { kPlain, kFlushed };
+
 // Converts `length` units at `input` from character set `from` to `to`, with
 // room for `room` units of output, and replaces `output` with the result up to
 // its first zero unit. `input` may point into `output`.
@@ -17,7 +21,7 @@ namespace qk::text {
 template <typename In, typename Out>
 bool convert(const char* to, const char* from, const In* input,
              std::size_t length, std::size_t room,
-             std::basic_string<Out>& output);
+             std::basic_string<Out>& output, Ending ending = Ending::kPlain);
 
 }  // namespace qk::text
 
