@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdint>
 
+#include "text/code_of.h"
+
 namespace qk::text {
 
 constexpr char kUpperHexDigits[] = "0123456789ABCDEF";
@@ -31,11 +33,9 @@ inline constexpr std::array<unsigned char, 256> kHexValues = make_hex_values();
 
 // The value of a hexadecimal digit of either case; kNoHexDigit for any other
 // unit, those of 256 and above included.
-constexpr unsigned hex_value(char unit) {
-  return internal::kHexValues[static_cast<unsigned char>(unit)];
-}
-constexpr unsigned hex_value(wchar_t unit) {
-  const auto code = static_cast<std::uint32_t>(unit);
+template <typename Unit>
+constexpr unsigned hex_value(Unit unit) {
+  const std::uint32_t code = code_of(unit);
   return code < 256 ? internal::kHexValues[code] : kNoHexDigit;
 }
 

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "text/code_of.h"
+
 namespace qk::text {
 namespace {
 
@@ -36,14 +38,14 @@ const Form* form_of(std::uint32_t first_byte) {
 // Reads one character at `position` and moves past it; false if there is none.
 bool read_character(std::string_view utf8, std::size_t& position,
                     std::uint32_t& character) {
-  const std::uint32_t first = static_cast<unsigned char>(utf8[position]);
+  const std::uint32_t first = code_of(utf8[position]);
   const Form* form = form_of(first);
   if (form == nullptr || utf8.size() - position <= form->following) {
     return false;
   }
   std::uint32_t value = first & ~form->mask;
   for (std::size_t i = 1; i <= form->following; ++i) {
-    const std::uint32_t byte = static_cast<unsigned char>(utf8[position + i]);
+    const std::uint32_t byte = code_of(utf8[position + i]);
     if ((byte & 0xC0) != 0x80) return false;
     value = value << 6 | (byte & 0x3F);
   }
@@ -95,7 +97,7 @@ bool encode_utf8(std::wstring_view wide, std::string& utf8) {
   char* out = utf8.data();
   std::size_t read = 0;
   for (; read < wide.size(); ++read) {
-    const auto unit = static_cast<std::uint32_t>(wide[read]);
+    const std::uint32_t unit = code_of(wide[read]);
     if (!is_character(unit)) break;
     out = write_character(unit, out);
   }
