@@ -1,0 +1,65 @@
+// What the characters of a URL are, told from one table.
+#ifndef KORVANE_URL_CHARACTER_CLASSES_H_
+#define KORVANE_URL_CHARACTER_CLASSES_H_
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+#include "text/code_of.h"
+
+namespace qk::url {
+
+using CharacterClasses = std::uint8_t;
+
+constexpr CharacterClasses kNeedEscape = 1;  // is escaped when printed
+constexpr CharacterClasses kReserved = 2;    // separates the parts of a URL
+constexpr CharacterClasses kSeparator = 4;   // stands before a file's name
+constexpr CharacterClasses kIllegal = 8;     // no file's name may hold it
+constexpr CharacterClasses kQuestion = 16;   // opens a query
+constexpr CharacterClasses kBlank = 32;      // space or tab
+constexpr CharacterClasses kEnd = 64;        // the zero unit
+constexpr CharacterClasses kWide = 128;      // not ASCII
+
+namespace internal {
+
+constexpr std::array<CharacterClasses, 128> make_character_classes() {
+  std::array<CharacterClasses, 128> classes{};
+  const auto mark = [&classes](std::string_view characters,
+                               CharacterClasses character_class) {
+    for (const char character : characters) {
+      classes[text::code_of(character)] |= character_class;
+    }
+  };
+  for (unsigned control = 0; control < 32; ++control) {
+    classes[control] |= kNeedEscape;
+  }
+  mark(" \x7F\"#%<>[\\]^`{|}~", kNeedEscape);
+  mark("$&+,/:;=?@", kReserved);
+  mark("\\/", kSeparator);
+  mark("\\/:*?\"<>|\t\r\n", kIllegal);
+  mark("?", kQuestion);
+  mark(" \t", kBlank);
+  mark(std::string_view("\0", 1), kEnd);
+  return classes;
+}
+
+inline constexpr std::array<CharacterClasses, 128> kClasses =
+    make_character_classes();
+
+}  // namespace internal
+
+template <typename Unit>
+constexpr CharacterClasses classes_of(Unit unit) {
+  const std::uint32_t code = text::code_of(unit);
+  return code < internal::kClasses.size() ? internal::kClasses[code] : kWide;
+}
+
+template <typename Unit>
+constexpr bool is_one_of(Unit unit, CharacterClasses character_classes) {
+  return (classes_of(unit) & character_classes) != 0;
+}
+
+}  // namespace qk::url
+
+#endif  // KORVANE_URL_CHARACTER_CLASSES_H_

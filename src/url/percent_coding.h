@@ -1,0 +1,66 @@
+// Percent-coding between buffers of the caller, for every coder of the library.
+#ifndef KORVANE_URL_PERCENT_CODING_H_
+#define KORVANE_URL_PERCENT_CODING_H_
+
+#include <cstddef>
+#include <string_view>
+
+#include "text/hex_digits.h"
+#include "url/character_classes.h"
+
+namespace qk::url {
+
+// What escape_at gives where no escape stands: more than any byte.
+constexpr unsigned kNoEscape = 0x100;
+
+// The byte that the "%" at `position` and two hexadecimal digits stand for;
+// kNoEscape for a "%" that is not followed by two of them.
+template <typename Unit>
+constexpr unsigned escape_at(std::basic_string_view<Unit> text,
+                             std::size_t position) {
+  if (text.size() - position <= 2) return kNoEscape;
+  const unsigned high = text::hex_value(text[position + 1]);
+  const unsigned low = text::hex_value(text[position + 2]);
+  return (high | low) < text::kNoHexDigit ? high << 4 | low : kNoEscape;
+}
+
+// Which escapes a decoder leaves as they stand.
+enum class Kept {
+  kNothing,
+  kSeparating,  // those of reserved characters, so that a URL keeps its parts
+};
+
+// Writes `text` with each escape replaced by the unit of its value, 0 to 255,
+// to `out` and returns the end. Writes text.size() units at the most; `out`
+// may be the start of the text itself. A "%" that opens no escape is copied.
+//
+// The units may be narrowed: wide ASCII text decodes straight to bytes.
+template <Kept kKept = Kept::kNothing, typename In, typename Out>
+Out* percent_decode(std::basic_string_view<In> text, Out* out) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    *out = static_cast<Out>(text[i]);
+    if (text[i] == In('%')) {
+      const unsigned value = escape_at(text, i);
+      const bool kept = value == kNoEscape ||
+                        (kKept == Kept::kSeparating &&
+                         is_one_of(static_cast<wchar_t>(value), kReserved));
+      if (!kept) {
+        *out = static_cast<Out>(value);
+        i += 2;
+      }
+    }
+    ++out;
+  }
+  return out;
+}
+
+// How many units `text` has when escaped: characters that need it and reserved
+// ones take three units, escapes that stand in the text are kept.
+std::size_t escaped_size(std::wstring_view text);
+
+// Writes `text` escaped to `out`, escaped_size(text) units; returns the end.
+wchar_t* escape(std::wstring_view text, wchar_t* out);
+
+}  // namespace qk::url
+
+#endif  // KORVANE_URL_PERCENT_CODING_H_

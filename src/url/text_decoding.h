@@ -1,0 +1,38 @@
+// Percent-escapes read as text in a code page.
+#ifndef KORVANE_URL_TEXT_DECODING_H_
+#define KORVANE_URL_TEXT_DECODING_H_
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace qk::url {
+
+// Room for the text that a decoder makes: on the stack while it is short.
+class ScratchText {
+ public:
+  // Room for `size` units; what it held is gone.
+  wchar_t* reserve(std::size_t size);
+  // Takes `text` over and gives a view of it.
+  std::wstring_view hold(std::wstring&& text);
+
+ private:
+  std::array<wchar_t, 256> short_;
+  std::wstring long_;
+};
+
+bool is_ascii(std::wstring_view text);
+
+// Text that holds a unit above 127 counts as decoded and is given back as it
+// is. Other text is percent-decoded to bytes, up to the first zero, and read in
+// `code_page`; 0 and 0xFFFFFFFF mean the default narrow encoding.
+//
+// The result is a view of `text` or of `scratch`.
+std::wstring_view decode_with_code_page(std::wstring_view text,
+                                        unsigned code_page,
+                                        ScratchText& scratch);
+
+}  // namespace qk::url
+
+#endif  // KORVANE_URL_TEXT_DECODING_H_

@@ -1,0 +1,80 @@
+// url_object's percent-coding, over the coders of percent_coding.h.
+#include <algorithm>
+
+#include "url/percent_coding.h"
+#include "url/text_decoding.h"
+#include "url/url_object.h"
+
+namespace {
+
+using qk::url::Kept;
+using qk::url::percent_decode;
+
+template <Kept kKept, typename Unit>
+std::basic_string<Unit> decoded(const std::basic_string<Unit>& text) {
+  std::basic_string<Unit> result(text);
+  const Unit* end =
+      percent_decode<kKept>(std::basic_string_view<Unit>(text), result.data());
+  result.resize(static_cast<std::size_t>(end - result.data()));
+  return result;
+}
+
+template <typename Unit>
+void erase_leading_blanks(std::basic_string<Unit>& text) {
+  text.erase(text.begin(),
+             std::find_if_not(text.begin(), text.end(), [](Unit unit) {
+               return qk::url::is_one_of(unit, qk::url::kBlank);
+             }));
+}
+
+}  // namespace
+
+std::string url_object::decode(const std::string& text) {
+  return decoded<Kept::kNothing>(text);
+}
+
+std::string url_object::decode_ex(const std::string& text) {
+  return decode(text);
+}
+
+std::wstring url_object::decode(const std::wstring& text) {
+  return decoded<Kept::kSeparating>(text);
+}
+
+std::wstring url_object::decode_ex(const std::wstring& text) {
+  return decoded<Kept::kNothing>(text);
+}
+
+std::wstring url_object::decode_ex(const std::wstring& text,
+                                   unsigned code_page) {
+  qk::url::ScratchText scratch;
+  return std::wstring(qk::url::decode_with_code_page(text, code_page, scratch));
+}
+
+std::wstring url_object::encode_ex(const std::wstring& text) {
+  std::wstring escaped(qk::url::escaped_size(text), L'\0');
+  qk::url::escape(text, escaped.data());
+  return escaped;
+}
+
+void url_object::detect_codepage(const std::string& text, unsigned* code_page) {
+  const bool ascii = std::none_of(text.begin(), text.end(), [](char byte) {
+    return qk::url::is_one_of(byte, qk::url::kWide);
+  });
+  *code_page = get_generally_codepage(ascii ? decode(text) : text, *code_page);
+}
+
+unsigned url_object::get_code_page(const std::string& /*text*/) { return 0; }
+
+unsigned url_object::get_generally_codepage(const std::string& /*text*/,
+                                            unsigned /*hint*/) {
+  return 0;
+}
+
+void url_object::trim_pre_space(std::string& text) {
+  erase_leading_blanks(text);
+}
+
+void url_object::trim_pre_space(std::wstring& text) {
+  erase_leading_blanks(text);
+}
