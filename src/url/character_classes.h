@@ -1,4 +1,5 @@
-// What the characters of a URL are, told from one table.
+// What the characters of a URL are, told from one table; those of 128 and above
+// belong to no class.
 #ifndef KORVANE_URL_CHARACTER_CLASSES_H_
 #define KORVANE_URL_CHARACTER_CLASSES_H_
 
@@ -16,10 +17,7 @@ constexpr CharacterClasses kNeedEscape = 1;  // is escaped when printed
 constexpr CharacterClasses kReserved = 2;    // separates the parts of a URL
 constexpr CharacterClasses kSeparator = 4;   // stands before a file's name
 constexpr CharacterClasses kIllegal = 8;     // no file's name may hold it
-constexpr CharacterClasses kQuestion = 16;   // opens a query
-constexpr CharacterClasses kBlank = 32;      // space or tab
-constexpr CharacterClasses kEnd = 64;        // the zero unit
-constexpr CharacterClasses kWide = 128;      // not ASCII
+constexpr CharacterClasses kBlank = 16;      // space or tab
 
 namespace internal {
 
@@ -38,9 +36,7 @@ constexpr std::array<CharacterClasses, 128> make_character_classes() {
   mark("$&+,/:;=?@", kReserved);
   mark("\\/", kSeparator);
   mark("\\/:*?\"<>|\t\r\n", kIllegal);
-  mark("?", kQuestion);
   mark(" \t", kBlank);
-  mark(std::string_view("\0", 1), kEnd);
   return classes;
 }
 
@@ -52,7 +48,8 @@ inline constexpr std::array<CharacterClasses, 128> kClasses =
 template <typename Unit>
 constexpr CharacterClasses classes_of(Unit unit) {
   const std::uint32_t code = text::code_of(unit);
-  return code < internal::kClasses.size() ? internal::kClasses[code] : kWide;
+  return code < internal::kClasses.size() ? internal::kClasses[code]
+                                          : CharacterClasses{0};
 }
 
 template <typename Unit>

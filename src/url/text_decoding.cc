@@ -1,6 +1,6 @@
 #include "url/text_decoding.h"
 
-#include <cstdint>
+#include <utility>
 
 #include "host/korvane_host.h"
 #include "url/percent_coding.h"
@@ -38,12 +38,6 @@ wchar_t* ScratchText::reserve(std::size_t size) {
 std::wstring_view ScratchText::hold(std::wstring&& text) {
   long_ = std::move(text);
   return long_;
-}
-
-bool is_ascii(std::wstring_view text) {
-  std::uint32_t seen = 0;
-  for (const wchar_t unit : text) seen |= text::code_of(unit);
-  return seen < 0x80;
 }
 
 std::wstring_view decode_with_code_page(std::wstring_view text,

@@ -4,8 +4,11 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+
+#include "text/code_of.h"
 
 namespace qk::url {
 
@@ -22,7 +25,12 @@ class ScratchText {
   std::wstring long_;
 };
 
-bool is_ascii(std::wstring_view text);
+template <typename Unit>
+bool is_ascii(std::basic_string_view<Unit> text) {
+  std::uint32_t seen = 0;
+  for (const Unit unit : text) seen |= text::code_of(unit);
+  return seen < 0x80;
+}
 
 // Text that holds a unit above 127 counts as decoded and is given back as it
 // is. Other text is percent-decoded to bytes, up to the first zero, and read in

@@ -1,0 +1,157 @@
+#include "url/url_file_name.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "text/code_of.h"
+#include "url/character_classes.h"
+#include "url/url_object.h"
+
+namespace qk::url {
+namespace {
+
+constexpr std::size_t kNowhere = std::wstring_view::npos;
+constexpr std::wstring_view kIndexName = L"index.html";
+constexpr std::size_t kLongestSearchedName = 1023;
+
+// In the order in which they are looked for.
+constexpr std::wstring_view kExtensions[] = {
+    L".msi",  L".asf", L".avi",  L".exe", L".iso", L".mp3",
+    L".mpeg", L".mpg", L".mpga", L".ra",  L".rar", L".rm",
+    L".rmvb", L".tar", L".wma",  L".wmp", L".wmv", L".zip"};
+
+std::size_t last_separator(std::wstring_view text) {
+  for (std::size_t i = text.size(); i > 0; --i) {
+    if (is_one_of(text[i - 1], kSeparator)) return i - 1;
+  }
+  return kNowhere;
+}
+
+std::wstring_view behind(std::wstring_view text, std::size_t position) {
+  return position == kNowhere ? text : text.substr(position + 1);
+}
+
+// The separator before the name: an address that the query carries as "url=" is
+// what the URL leads to.
+std::size_t file_position(std::wstring_view text) {
+  if (text.find(L"url=") != kNowhere) return last_separator(text);
+  return last_separator(text.substr(0, text.find(L'?')));
+}
+
+std::wstring_view without_trailing_blanks(std::wstring_view text) {
+  while (!text.empty() && is_one_of(text.back(), kBlank)) text.remove_suffix(1);
+  return text;
+}
+
+bool is_illegal(wchar_t unit) { return is_one_of(unit, kIllegal); }
+
+bool holds_illegal(std::wstring_view text) {
+  CharacterClasses seen = 0;
+  for (const wchar_t unit : text) seen |= classes_of(unit);
+  return (seen & kIllegal) != 0;
+}
+
+// The name within decoded text that holds separators or a query.
+std::wstring_view cut_name(std::wstring_view text) {
+  const std::size_t query = text.rfind(L'?');
+  if (query == kNowhere) return last_segment(text);
+  // Kept: the "?" itself stays, and becomes the name's last "_".
+  text = text.substr(0, query + 1);
+  const std::wstring_view name = behind(text, file_position(text));
+  return name.substr(0, name.find(L'&'));
+}
+
+std::wstring_view without_leading_illegal(std::wstring_view name) {
+  while (!name.empty() && is_illegal(name.front())) name.remove_prefix(1);
+  return name;
+}
+
+bool ends_word(std::wstring_view text, std::size_t position) {
+  if (position == text.size() || text[position] == L',') return true;
+  const std::uint32_t code = text::code_of(text[position]);
+  return code < 256 && std::isspace(static_cast<int>(code)) != 0;
+}
+
+bool is_word_unit(wchar_t unit) {
+  return url_object::is_alpha(unit) || url_object::is_digit(unit) ||
+         unit == L'$' || unit == L'-';
+}
+
+std::size_t find_extension(std::wstring_view text,
+                           std::wstring_view extension) {
+  const std::size_t found = text.find(extension);
+  if (found != kNowhere) return found;
+  return text.find(make_upper(std::wstring(extension)));
+}
+
+std::wstring_view word_with(std::wstring_view text,
+                            std::wstring_view extension) {
+  const std::size_t dot = find_extension(text, extension);
+  if (dot == kNowhere) return {};
+  const std::size_t end = dot + extension.size();
+  if (!ends_word(text, end)) return {};
+  // Kept: the text's first character counts as part of the word, whatever it
+  // is.
+  std::size_t begin = dot;
+  while (begin > 1 && is_word_unit(text[begin - 1])) --begin;
+  if (begin == 1) begin = 0;
+  return begin < dot ? text.substr(begin, end - begin) : std::wstring_view();
+}
+
+}  // namespace
+
+std::wstring_view last_segment(std::wstring_view text) {
+  return behind(text, last_separator(text));
+}
+
+std::wstring_view word_with_extension(std::wstring_view text) {
+  if (text.find(L'.') == kNowhere) return {};
+  for (const std::wstring_view extension : kExtensions) {
+    const std::wstring_view word = word_with(text, extension);
+    if (!word.empty()) return word;
+  }
+  return {};
+}
+
+std::wstring_view find_file_name(std::wstring_view text, unsigned code_page,
+                                 ScratchText& scratch) {
+  std::wstring_view raw =
+      without_trailing_blanks(decode_with_code_page(text, code_page, scratch));
+  // Separators and "?" are illegal too: most names need one look only.
+  if (holds_illegal(raw)) raw = cut_name(raw);
+  const std::wstring_view name = without_leading_illegal(raw);
+  if (name.empty()) return kIndexName;
+  if (name.size() > kLongestSearchedName || name.find(L'.') != kNowhere) {
+    return name;
+  }
+  const std::wstring_view word = word_with_extension(raw);
+  return word.empty() ? name : word;
+}
+
+void write_file_name(std::wstring_view name, wchar_t* out) {
+  std::replace_copy_if(name.begin(), name.end(), out, is_illegal, L'_');
+}
+
+}  // namespace qk::url
+
+std::wstring url_object::file_name_for(const std::wstring& text,
+                                       unsigned code_page) {
+  qk::url::ScratchText scratch;
+  const std::wstring_view found =
+      qk::url::find_file_name(text, code_page, scratch);
+  std::wstring name(found.size(), L'\0');
+  qk::url::write_file_name(found, name.data());
+  return name;
+}
+
+std::size_t url_object::get_file_pos(const std::wstring& text) {
+  return qk::url::file_position(text);
+}
+
+std::wstring make_upper(const std::wstring& text) {
+  std::wstring upper(text);
+  for (wchar_t& unit : upper) {
+    if (unit >= L'a' && unit <= L'z') unit -= L'a' - L'A';
+  }
+  return upper;
+}

@@ -58,9 +58,7 @@ std::wstring url_object::encode_ex(const std::wstring& text) {
 }
 
 void url_object::detect_codepage(const std::string& text, unsigned* code_page) {
-  const bool ascii = std::none_of(text.begin(), text.end(), [](char byte) {
-    return qk::url::is_one_of(byte, qk::url::kWide);
-  });
+  const bool ascii = qk::url::is_ascii(std::string_view(text));
   *code_page = get_generally_codepage(ascii ? decode(text) : text, *code_page);
 }
 
