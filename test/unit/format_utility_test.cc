@@ -16,7 +16,7 @@ namespace {
 
 template <typename Unit>
 class FormatUtility : public testing::Test {};
-TYPED_TEST_SUITE(FormatUtility, BothCharacterTypes);
+TYPED_TEST_SUITE(FormatUtility, BothCharacterTypes, CharacterTypeName);
 
 TYPED_TEST(FormatUtility, PrintsIntegersOfEverySize) {
   using Format = qk::text::format_utility_t<TypeParam>;
@@ -39,15 +39,12 @@ TYPED_TEST(FormatUtility, PrintsSixDigitsBehindThePoint) {
 
 TYPED_TEST(FormatUtility, CutsADoubleAfter127Units) {
   using Format = qk::text::format_utility_t<TypeParam>;
-  char whole[400];
-  std::snprintf(whole, sizeof(whole), "%f", 1e119);
-  EXPECT_EQ(Format::to_string(1e119), as<TypeParam>(whole)) << "127 units";
-  std::snprintf(whole, sizeof(whole), "%f", 1e120);
-  EXPECT_EQ(Format::to_string(1e120),
-            as<TypeParam>(std::string(whole).substr(0, 127)));
-  std::snprintf(whole, sizeof(whole), "%f", -DBL_MAX);
-  EXPECT_EQ(Format::to_string(-DBL_MAX),
-            as<TypeParam>(std::string(whole).substr(0, 127)));
+  for (const double value : {1e119, -1e118, 1e120, -1e119, DBL_MAX}) {
+    char whole[400];
+    static_cast<void>(std::snprintf(whole, sizeof(whole), "%f", value));
+    EXPECT_EQ(Format::to_string(value),
+              as<TypeParam>(std::string(whole).substr(0, 127)));
+  }
 }
 
 TYPED_TEST(FormatUtility, ReadsIntegersLikeTheScan) {

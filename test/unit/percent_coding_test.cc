@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
-#include <cwchar>
 #include <string>
 #include <string_view>
 
@@ -21,15 +20,13 @@ constexpr std::wstring_view kReservedCharacters = L"$&+,/:;=?@";
 wchar_t unit(unsigned code) { return static_cast<wchar_t>(code); }
 
 std::wstring upper_escape(unsigned value) {
-  wchar_t text[4];
-  std::swprintf(text, 4, L"%%%02X", value);
-  return text;
+  constexpr std::wstring_view digits = L"0123456789ABCDEF";
+  return {L'%', digits[value / 16], digits[value % 16]};
 }
 
 std::wstring lower_escape(unsigned value) {
-  wchar_t text[4];
-  std::swprintf(text, 4, L"%%%02x", value);
-  return text;
+  constexpr std::wstring_view digits = L"0123456789abcdef";
+  return {L'%', digits[value / 16], digits[value % 16]};
 }
 
 TEST(CharacterClasses, TellEveryCharacter) {
@@ -193,9 +190,8 @@ TEST(DecodeWithCodePage, ReadsEscapesAsBytes) {
 TEST(DecodeWithCodePage, LeavesTextThatHoldsCharactersAbove127) {
   for (const unsigned code :
        {0x80U, 0xE9U, 0x4E2DU, 0xD800U, 0x1F600U, 0x80000041U}) {
-    std::wstring text = L"a%20b\0%41";
-    text += unit(code);
-    text.append(L"\0%41", 4);
+    std::wstring text = {L'a', L'\0', unit(code), L'\0'};
+    text += L"%20";
     EXPECT_EQ(url_object::decode_ex(text, 65001), text) << code;
   }
   EXPECT_EQ(url_object::decode_ex(L"\x7F%20", 65001), L"\x7F ");
@@ -265,7 +261,7 @@ TEST(CodePageDetection, KnowsNoParticularCodePage) {
 
 template <typename Unit>
 class TrimPreSpace : public testing::Test {};
-TYPED_TEST_SUITE(TrimPreSpace, BothCharacterTypes);
+TYPED_TEST_SUITE(TrimPreSpace, BothCharacterTypes, CharacterTypeName);
 
 TYPED_TEST(TrimPreSpace, RemovesLeadingSpacesAndTabsOnly) {
   const struct {

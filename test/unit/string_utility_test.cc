@@ -15,11 +15,14 @@ using qk::text::find_nocase;
 using Wide = qk::text::string_utility_t<wchar_t>;
 constexpr std::size_t kNowhere = std::wstring_view::npos;
 
-int sign(int value) { return (value > 0) - (value < 0); }
+int sign(int value) {
+  if (value == 0) return 0;
+  return value < 0 ? -1 : 1;
+}
 
 template <typename Unit>
 class CompareNocase : public testing::Test {};
-TYPED_TEST_SUITE(CompareNocase, BothCharacterTypes);
+TYPED_TEST_SUITE(CompareNocase, BothCharacterTypes, CharacterTypeName);
 
 TYPED_TEST(CompareNocase, ComparesWholeTextsWhateverTheCount) {
   using Compare = qk::text::string_utility_t<TypeParam>;

@@ -28,7 +28,10 @@ std::unique_ptr<url_info_u> patterned() {
 }
 
 bool same(const url_info_u& a, const url_info_u& b) {
-  return std::memcmp(&a, &b, sizeof(a)) == 0;
+  const auto bytes_of = [](const url_info_u& info) {
+    return std::string_view(reinterpret_cast<const char*>(&info), sizeof(info));
+  };
+  return bytes_of(a) == bytes_of(b);
 }
 
 template <std::size_t kCapacity>

@@ -14,4 +14,11 @@ std::basic_string<Unit> as(std::string_view ascii) {
 
 using BothCharacterTypes = testing::Types<char, wchar_t>;
 
+struct CharacterTypeName {
+  template <typename Unit>
+  static std::string GetName(int /*index*/) {
+    return sizeof(Unit) == 1 ? "char" : "wchar_t";
+  }
+};
+
 #endif  // KORVANE_TEST_UNIT_WIDEN_H_
