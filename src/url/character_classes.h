@@ -1,5 +1,5 @@
 // What the characters of a URL are, told from one table; those of 128 and above
-// belong to no class.
+// are foreign and nothing else.
 #ifndef KORVANE_URL_CHARACTER_CLASSES_H_
 #define KORVANE_URL_CHARACTER_CLASSES_H_
 
@@ -18,6 +18,9 @@ constexpr CharacterClasses kReserved = 2;    // separates the parts of a URL
 constexpr CharacterClasses kSeparator = 4;   // stands before a file's name
 constexpr CharacterClasses kIllegal = 8;     // no file's name may hold it
 constexpr CharacterClasses kBlank = 16;      // space or tab
+constexpr CharacterClasses kPercent = 32;    // opens an escape
+constexpr CharacterClasses kZero = 64;       // ends text that is converted
+constexpr CharacterClasses kForeign = 128;   // not ASCII
 
 namespace internal {
 
@@ -37,6 +40,8 @@ constexpr std::array<CharacterClasses, 128> make_character_classes() {
   mark("\\/", kSeparator);
   mark("\\/:*?\"<>|\t\r\n", kIllegal);
   mark(" \t", kBlank);
+  mark("%", kPercent);
+  mark(std::string_view("\0", 1), kZero);
   return classes;
 }
 
@@ -48,13 +53,19 @@ inline constexpr std::array<CharacterClasses, 128> kClasses =
 template <typename Unit>
 constexpr CharacterClasses classes_of(Unit unit) {
   const std::uint32_t code = text::code_of(unit);
-  return code < internal::kClasses.size() ? internal::kClasses[code]
-                                          : CharacterClasses{0};
+  return code < internal::kClasses.size() ? internal::kClasses[code] : kForeign;
 }
 
 template <typename Unit>
 constexpr bool is_one_of(Unit unit, CharacterClasses character_classes) {
   return (classes_of(unit) & character_classes) != 0;
+}
+
+// The classes that the units of `text` belong to, all together.
+constexpr CharacterClasses classes_in(std::wstring_view text) {
+  unsigned classes = 0;
+  for (const wchar_t unit : text) classes |= classes_of(unit);
+  return static_cast<CharacterClasses>(classes);
 }
 
 }  // namespace qk::url

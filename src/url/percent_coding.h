@@ -33,25 +33,32 @@ enum class Kept {
 // Writes `text` with each escape replaced by the unit of its value, 0 to 255,
 // to `out` and returns the end. Writes text.size() units at the most; `out`
 // may be the start of the text itself. A "%" that opens no escape is copied.
+// `see` is called with each unit that is written.
 //
 // The units may be narrowed: wide ASCII text decodes straight to bytes.
-template <Kept kKept = Kept::kNothing, typename In, typename Out>
-Out* percent_decode(std::basic_string_view<In> text, Out* out) {
+template <Kept kKept = Kept::kNothing, typename In, typename Out, typename See>
+Out* percent_decode(std::basic_string_view<In> text, Out* out, See see) {
   for (std::size_t i = 0; i < text.size(); ++i) {
-    *out = static_cast<Out>(text[i]);
+    Out unit = static_cast<Out>(text[i]);
     if (text[i] == In('%')) {
       const unsigned value = escape_at(text, i);
       const bool kept = value == kNoEscape ||
                         (kKept == Kept::kSeparating &&
                          is_one_of(static_cast<wchar_t>(value), kReserved));
       if (!kept) {
-        *out = static_cast<Out>(value);
+        unit = static_cast<Out>(value);
         i += 2;
       }
     }
-    ++out;
+    see(unit);
+    *out++ = unit;
   }
   return out;
+}
+
+template <Kept kKept = Kept::kNothing, typename In, typename Out>
+Out* percent_decode(std::basic_string_view<In> text, Out* out) {
+  return percent_decode<kKept>(text, out, [](Out /*unit*/) {});
 }
 
 // How many units `text` has when escaped: characters that need it and reserved

@@ -23,8 +23,28 @@ unsigned code_page_of(const std::string& bytes, unsigned code_page) {
       url_object::get_generally_codepage(bytes, kAnyCodePage));
 }
 
-std::wstring_view until_zero(std::wstring_view text) {
-  return text.substr(0, text.find(L'\0'));
+void cut_at_zero(DecodedText& decoded) {
+  if (!decoded.holds(kZero)) return;
+  decoded.text = decoded.text.substr(0, decoded.text.find(L'\0'));
+  decoded.classes = classes_in(decoded.text);
+}
+
+// Units of 0 to 255 where `text` is ASCII.
+void decode_escapes(std::wstring_view text, ScratchText& scratch,
+                    DecodedText& decoded) {
+  wchar_t* const begin = scratch.reserve(text.size());
+  unsigned classes = 0;
+  const wchar_t* const end = percent_decode(
+      text, begin, [&classes](wchar_t unit) { classes |= classes_of(unit); });
+  decoded.text = {begin, static_cast<std::size_t>(end - begin)};
+  decoded.classes = static_cast<CharacterClasses>(classes);
+}
+
+void convert(const std::string& bytes, unsigned code_page, ScratchText& scratch,
+             DecodedText& decoded) {
+  decoded.text = scratch.hold(string_to_wstring_with_code_page(
+      bytes, static_cast<int>(code_page_of(bytes, code_page))));
+  decoded.classes = classes_in(decoded.text);
 }
 
 }  // namespace
@@ -40,20 +60,22 @@ std::wstring_view ScratchText::hold(std::wstring&& text) {
   return long_;
 }
 
-std::wstring_view decode_with_code_page(std::wstring_view text,
-                                        unsigned code_page,
-                                        ScratchText& scratch) {
-  if (!is_ascii(text)) return text;
+DecodedText decode_with_code_page(std::wstring_view text, unsigned code_page,
+                                  ScratchText& scratch) {
+  DecodedText decoded = {text, 0};
+  const bool is_escaped = text.find(L'%') != std::wstring_view::npos;
+  if (is_escaped) decode_escapes(text, scratch, decoded);
+  if (!is_escaped || (decoded.holds(kForeign) && !is_ascii(text))) {
+    decoded = {text, classes_in(text)};
+    if (decoded.holds(kForeign)) return decoded;
+  }
+  cut_at_zero(decoded);
   // Every code page agrees with ASCII: only other bytes need the conversion.
-  if (text.find(L'%') == std::wstring_view::npos) return until_zero(text);
-  wchar_t* decoded = scratch.reserve(text.size());
-  const wchar_t* end = percent_decode(text, decoded);
-  const std::wstring_view units =
-      until_zero({decoded, static_cast<std::size_t>(end - decoded)});
-  if (is_ascii(units)) return units;
-  const std::string bytes(units.begin(), units.end());
-  return scratch.hold(string_to_wstring_with_code_page(
-      bytes, static_cast<int>(code_page_of(bytes, code_page))));
+  if (decoded.holds(kForeign)) {
+    convert({decoded.text.begin(), decoded.text.end()}, code_page, scratch,
+            decoded);
+  }
+  return decoded;
 }
 
 }  // namespace qk::url

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "text/code_of.h"
+#include "url/character_classes.h"
 
 namespace qk::url {
 
@@ -32,14 +33,20 @@ bool is_ascii(std::basic_string_view<Unit> text) {
   return seen < 0x80;
 }
 
+struct DecodedText {
+  std::wstring_view text;
+  CharacterClasses classes;  // those of its units
+
+  bool holds(CharacterClasses some) const { return (classes & some) != 0; }
+};
+
 // Text that holds a unit above 127 counts as decoded and is given back as it
 // is. Other text is percent-decoded to bytes, up to the first zero, and read in
 // `code_page`; 0 and 0xFFFFFFFF mean the default narrow encoding.
 //
 // The result is a view of `text` or of `scratch`.
-std::wstring_view decode_with_code_page(std::wstring_view text,
-                                        unsigned code_page,
-                                        ScratchText& scratch);
+DecodedText decode_with_code_page(std::wstring_view text, unsigned code_page,
+                                  ScratchText& scratch);
 
 }  // namespace qk::url
 

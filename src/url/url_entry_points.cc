@@ -13,6 +13,7 @@
 namespace {
 
 using qk::url::answer;
+using qk::url::FileName;
 using qk::url::kLongestText;
 using qk::url::schema_type_of;
 using qk::url::ScratchText;
@@ -52,8 +53,9 @@ long put_url(std::wstring_view url, unsigned code_page, url_info_u& info) {
 
   ScratchText user;
   ScratchText password;
-  parts.user = decode_with_code_page(parts.user, code_page, user);
-  parts.password = decode_with_code_page(parts.password, code_page, password);
+  parts.user = decode_with_code_page(parts.user, code_page, user).text;
+  parts.password =
+      decode_with_code_page(parts.password, code_page, password).text;
   const bool fits = put(parts.schema, info.schema_len, info.schema) &&
                     put(parts.user, info.user_len, info.user) &&
                     put(parts.password, info.password_len, info.password) &&
@@ -132,12 +134,12 @@ long parse_filename_u(wchar_t* out, size_t* out_len, const wchar_t* url,
   return answer(URL_E_BUFFER, [&]() -> long {
     const std::wstring_view text(url, url_len);
     ScratchText scratch;
-    const std::wstring_view name = qk::url::find_file_name(
+    const FileName name = qk::url::find_file_name(
         qk::url::last_segment(text.substr(0, text.find(L'?'))), code_page,
         scratch);
-    if (name.size() > *out_len) return URL_E_BUFFER;
-    qk::url::write_file_name(name, out);
-    *out_len = name.size();
+    if (name.text.size() > *out_len) return URL_E_BUFFER;
+    write_file_name(name, out);
+    *out_len = name.text.size();
     return 0;
   });
 }

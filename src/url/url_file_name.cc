@@ -22,7 +22,7 @@ constexpr std::wstring_view kExtensions[] = {
 
 std::size_t last_separator(std::wstring_view text) {
   for (std::size_t i = text.size(); i > 0; --i) {
-    if (is_one_of(text[i - 1], kSeparator)) return i - 1;
+    if (text[i - 1] == L'/' || text[i - 1] == L'\\') return i - 1;
   }
   return kNowhere;
 }
@@ -44,12 +44,6 @@ std::wstring_view without_trailing_blanks(std::wstring_view text) {
 }
 
 bool is_illegal(wchar_t unit) { return is_one_of(unit, kIllegal); }
-
-bool holds_illegal(std::wstring_view text) {
-  CharacterClasses seen = 0;
-  for (const wchar_t unit : text) seen |= classes_of(unit);
-  return (seen & kIllegal) != 0;
-}
 
 // The name within decoded text that holds separators or a query.
 std::wstring_view cut_name(std::wstring_view text) {
@@ -113,23 +107,29 @@ std::wstring_view word_with_extension(std::wstring_view text) {
   return {};
 }
 
-std::wstring_view find_file_name(std::wstring_view text, unsigned code_page,
-                                 ScratchText& scratch) {
-  std::wstring_view raw =
-      without_trailing_blanks(decode_with_code_page(text, code_page, scratch));
+FileName find_file_name(std::wstring_view text, unsigned code_page,
+                        ScratchText& scratch) {
+  const DecodedText decoded = decode_with_code_page(text, code_page, scratch);
   // Separators and "?" are illegal too: most names need one look only.
-  if (holds_illegal(raw)) raw = cut_name(raw);
+  const bool is_clean = !decoded.holds(kIllegal);
+  std::wstring_view raw = without_trailing_blanks(decoded.text);
+  if (!is_clean) raw = cut_name(raw);
   const std::wstring_view name = without_leading_illegal(raw);
-  if (name.empty()) return kIndexName;
+  if (name.empty()) return {kIndexName, true};
   if (name.size() > kLongestSearchedName || name.find(L'.') != kNowhere) {
-    return name;
+    return {name, is_clean};
   }
   const std::wstring_view word = word_with_extension(raw);
-  return word.empty() ? name : word;
+  return {word.empty() ? name : word, is_clean};
 }
 
-void write_file_name(std::wstring_view name, wchar_t* out) {
-  std::replace_copy_if(name.begin(), name.end(), out, is_illegal, L'_');
+void write_file_name(const FileName& name, wchar_t* out) {
+  if (name.is_clean) {
+    name.text.copy(out, name.text.size());
+  } else {
+    std::replace_copy_if(name.text.begin(), name.text.end(), out, is_illegal,
+                         L'_');
+  }
 }
 
 }  // namespace qk::url
@@ -137,9 +137,9 @@ void write_file_name(std::wstring_view name, wchar_t* out) {
 std::wstring url_object::file_name_for(const std::wstring& text,
                                        unsigned code_page) {
   qk::url::ScratchText scratch;
-  const std::wstring_view found =
+  const qk::url::FileName found =
       qk::url::find_file_name(text, code_page, scratch);
-  std::wstring name(found.size(), L'\0');
+  std::wstring name(found.text.size(), L'\0');
   qk::url::write_file_name(found, name.data());
   return name;
 }

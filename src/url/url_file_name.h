@@ -13,15 +13,19 @@ namespace qk::url {
 // What stands behind the last "\" or "/"; all of `text` if there is none.
 std::wstring_view last_segment(std::wstring_view text);
 
-// The name for what `text` leads to, not empty: a view of `text`, of `scratch`
-// or of a constant. It still holds characters that no file's name may hold;
-// write_file_name replaces them one for one.
-std::wstring_view find_file_name(std::wstring_view text, unsigned code_page,
-                                 ScratchText& scratch);
+struct FileName {
+  std::wstring_view text;  // not empty
+  bool is_clean;           // false: may hold what no file's name may hold
+};
 
-// Writes name.size() units to `out`, "_" for each character that no file's name
-// may hold.
-void write_file_name(std::wstring_view name, wchar_t* out);
+// The name for what `text` leads to, a view of `text`, of `scratch` or of a
+// constant; write_file_name cleans it.
+FileName find_file_name(std::wstring_view text, unsigned code_page,
+                        ScratchText& scratch);
+
+// Writes name.text.size() units to `out`, "_" for each character that no file's
+// name may hold.
+void write_file_name(const FileName& name, wchar_t* out);
 
 // The word in `text` that ends in a known file extension, which white space, a
 // comma or the end of the text follows: "setup.exe" in "get setup.exe, now".

@@ -18,7 +18,8 @@ constexpr std::array<std::uint16_t, 8> kPorts = {21,   1755, 443, 1755,
 
 std::wstring decoded(std::wstring_view text, unsigned code_page) {
   qk::url::ScratchText scratch;
-  return std::wstring(qk::url::decode_with_code_page(text, code_page, scratch));
+  return std::wstring(
+      qk::url::decode_with_code_page(text, code_page, scratch).text);
 }
 
 url_object object_of(const UrlParts& parts, unsigned code_page) {

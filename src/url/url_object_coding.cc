@@ -48,7 +48,8 @@ std::wstring url_object::decode_ex(const std::wstring& text) {
 std::wstring url_object::decode_ex(const std::wstring& text,
                                    unsigned code_page) {
   qk::url::ScratchText scratch;
-  return std::wstring(qk::url::decode_with_code_page(text, code_page, scratch));
+  return std::wstring(
+      qk::url::decode_with_code_page(text, code_page, scratch).text);
 }
 
 std::wstring url_object::encode_ex(const std::wstring& text) {
