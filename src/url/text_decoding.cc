@@ -26,7 +26,6 @@ unsigned code_page_of(const std::string& bytes, unsigned code_page) {
 void cut_at_zero(DecodedText& decoded) {
   if (!decoded.holds(kZero)) return;
   decoded.text = decoded.text.substr(0, decoded.text.find(L'\0'));
-  decoded.classes = classes_in(decoded.text);
 }
 
 // Units of 0 to 255 where `text` is ASCII.

@@ -35,7 +35,7 @@ bool is_ascii(std::basic_string_view<Unit> text) {
 
 struct DecodedText {
   std::wstring_view text;
-  CharacterClasses classes;  // those of its units
+  CharacterClasses classes;  // at least those that its units belong to
 
   bool holds(CharacterClasses some) const { return (classes & some) != 0; }
 };

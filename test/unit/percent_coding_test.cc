@@ -198,9 +198,9 @@ TEST(DecodeWithCodePage, LeavesTextThatHoldsCharactersAbove127) {
 }
 
 TEST(DecodeWithCodePage, EndsAsciiTextAtItsFirstZero) {
-  EXPECT_EQ(url_object::decode_ex(std::wstring(L"ab\0c", 4), 0), L"ab");
+  EXPECT_EQ(url_object::decode_ex(std::wstring(L"ab\0c\0d", 6), 0), L"ab");
   EXPECT_EQ(url_object::decode_ex(std::wstring(L"%41\0%42", 7), 0), L"A");
-  EXPECT_EQ(url_object::decode_ex(L"%41%00%42", 0), L"A");
+  EXPECT_EQ(url_object::decode_ex(L"%41%00%E9", 0), L"A");
   EXPECT_EQ(url_object::decode_ex(L"%E9%00%E9", 1252), L"\u00E9");
 }
 

@@ -282,7 +282,7 @@ TEST(IsSupportSchema, TakesWholeSchemesThatFilesAreLoadedFrom) {
       {"http://x", 0},
       {"foo://", 0},
       // A text ends at its first zero and where it cannot be read.
-      {std::string("http://\0x", 9), 1},
+      {std::string("http://\0x\0", 10), 1},
       {std::string("\0http://", 8), 0},
       {"http://\x81", 1},
       {"http://\xE4", 0},
@@ -340,6 +340,20 @@ TEST(UrlFunctions, RefuseAbsurdLengths) {
   }
   EXPECT_EQ(length, 64U);
   EXPECT_EQ(supported, 0xA5U);
+}
+
+// Texts that are told by their first unit: the rest is not read.
+TEST(UrlFunctions, TakeTheLongestLength) {
+  const std::size_t longest = 0xFFFFFFFF;
+  auto info = record_of({L"http://", L"", L"", L"h", L"/", 0});
+  info->path_len = longest;
+  wchar_t out[16];
+  std::size_t length = 16;
+  unsigned supported = 0xA5;
+  EXPECT_EQ(parse_url_u(L"://", longest, 0, info.get()), URL_E_PARSE);
+  EXPECT_EQ(parse_filename_u(out, &length, L"?", longest, 0), 0);
+  EXPECT_EQ(is_support_schema("", longest, &supported), 0);
+  EXPECT_EQ(url_info_to_str_u(out, &length, info.get()), 0);
 }
 
 TEST(UrlFunctions, AllocateOnlyForForeignText) {

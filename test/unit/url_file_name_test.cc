@@ -160,6 +160,7 @@ TEST(WordWithExtension, IsTheFirstKnownFileInTheText) {
       {L"get setup.Exe", L""},
       {L"get setup.exe;", L""},
       {L"get setup.exe.", L""},
+      {L"get setup.exe\u0100", L""},
       {L"get setup.exe\u0120", L""},
       {L"a-b$9Z.zip", L"a-b$9Z.zip"},
       {L"x_y.zip", L"y.zip"},
@@ -180,6 +181,7 @@ TEST(WordWithExtension, IsTheFirstKnownFileInTheText) {
       {L"a.mpeg", L"a.mpeg"},
       // Each extension is looked for once, its lower case first.
       {L"a.exex b.exe", L""},
+      {L"A.EXEX B.EXE", L""},
       {L"A.EXE b.exe", L"b.exe"},
       {L"A.EXE b.exex", L""},
       {L"a.msi. b.asf", L"b.asf"},
