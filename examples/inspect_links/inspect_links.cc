@@ -101,13 +101,13 @@ class Report {
   explicit Report(v8::Isolate* isolate)
       : isolate_(isolate), object_(v8::Object::New(isolate)) {}
 
-  void add(const char* key, std::wstring_view text) {
+  void add_text(const char* key, std::wstring_view text) {
     set(key, script_text(isolate_, text));
   }
-  void add(const char* key, double number) {
+  void add_number(const char* key, double number) {
     set(key, v8::Number::New(isolate_, number));
   }
-  void add(const char* key, bool flag) {
+  void add_flag(const char* key, bool flag) {
     set(key, v8::Boolean::New(isolate_, flag));
   }
   v8::Local<v8::Object> object() const { return object_; }
@@ -133,21 +133,21 @@ const wchar_t* reason(long code) {
 void inspect_magnet(std::wstring_view link, Report& report) {
   unsigned char hash[MAGNET_HASH_SIZE] = {};
   if (library.parse_magnet(link.data(), link.size(), hash) != 0) {
-    return report.add("error", L"no magnet link with an info hash");
+    return report.add_text("error", L"no magnet link with an info hash");
   }
-  report.add("kind", L"magnet");
-  report.add("infoHash", hexadecimal(hash, sizeof(hash)));
+  report.add_text("kind", L"magnet");
+  report.add_text("infoHash", hexadecimal(hash, sizeof(hash)));
 }
 
 void inspect_ed2k(std::wstring_view link, Report& report) {
   ed2k_url_info_u info;
   if (library.parse_ed2k(link.data(), link.size(), &info) != 0) {
-    return report.add("error", L"no ed2k link to a file");
+    return report.add_text("error", L"no ed2k link to a file");
   }
-  report.add("kind", L"ed2k");
-  report.add("name", info.name);
-  report.add("size", info.size);
-  report.add("hash", hexadecimal(info.hash, sizeof(info.hash)));
+  report.add_text("kind", L"ed2k");
+  report.add_text("name", info.name);
+  report.add_number("size", info.size);
+  report.add_text("hash", hexadecimal(info.hash, sizeof(info.hash)));
 }
 
 // Longer texts cannot come out of a record; names may be as long as the link.
@@ -156,7 +156,7 @@ void add_file_name(std::wstring_view link, Report& report) {
   std::size_t length = name.size();
   if (library.parse_file_name(name.data(), &length, link.data(), link.size(),
                               0) == 0) {
-    report.add("name", std::wstring_view(name).substr(0, length));
+    report.add_text("name", std::wstring_view(name).substr(0, length));
   }
 }
 
@@ -170,23 +170,23 @@ bool is_supported(const url_info_u& info) {
 void inspect_url(std::wstring_view link, Report& report) {
   url_info_u info;
   const long code = library.parse_url(link.data(), link.size(), 0, &info);
-  if (code != 0) return report.add("error", reason(code));
-  report.add("kind", L"url");
+  if (code != 0) return report.add_text("error", reason(code));
+  report.add_text("kind", L"url");
   add_file_name(link, report);
-  report.add("scheme", {info.schema, info.schema_len});
-  if (info.user_len != 0) report.add("user", {info.user, info.user_len});
+  report.add_text("scheme", {info.schema, info.schema_len});
+  if (info.user_len != 0) report.add_text("user", {info.user, info.user_len});
   if (info.password_len != 0) {
-    report.add("password", {info.password, info.password_len});
+    report.add_text("password", {info.password, info.password_len});
   }
-  report.add("host", {info.host, info.host_len});
-  report.add("port", static_cast<double>(info.port));
-  report.add("path", {info.path, info.path_len});
+  report.add_text("host", {info.host, info.host_len});
+  report.add_number("port", static_cast<double>(info.port));
+  report.add_text("path", {info.path, info.path_len});
   wchar_t printed[8192];
   std::size_t length = std::size(printed);
   if (library.print_url(printed, &length, &info) == 0) {
-    report.add("printed", {printed, length});
+    report.add_text("printed", {printed, length});
   }
-  report.add("supported", is_supported(info));
+  report.add_flag("supported", is_supported(info));
 }
 
 wchar_t lower_case(wchar_t character) {
@@ -208,7 +208,7 @@ void inspect(std::wstring_view link, Report& report) {
   if (starts_with(link, L"ed2k://")) return inspect_ed2k(link, report);
   if (starts_with(link, L"korvane://")) {
     // Private links are made on this platform, never read.
-    return report.add("kind", L"private");
+    return report.add_text("kind", L"private");
   }
   inspect_url(link, report);
 }
