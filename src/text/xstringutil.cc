@@ -1,0 +1,203 @@
+#include "text/xstringutil.h"
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+#include "text/hex_digits.h"
+
+namespace xstringutil {
+namespace {
+
+using qk::text::hex_value;
+using qk::text::kLowerHexDigits;
+using qk::text::kNoHexDigit;
+using qk::text::kUpperHexDigits;
+
+constexpr char kBlanks[] = " \t";
+constexpr char kForbiddenInFileNames[] = "\\/:*?\"<>|";
+constexpr std::size_t kLongestFileName = 215;
+constexpr std::string_view kAlphanumeric =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+constexpr std::string_view kPathPunctuation = "/-_.!~*()";
+
+std::string_view bytes_of(const char* data, int len) {
+  if (data == nullptr || len <= 0) return {};
+  return {data, static_cast<std::size_t>(len)};
+}
+
+unsigned octet(char byte) { return static_cast<unsigned char>(byte); }
+
+using ByteSet = std::array<bool, 256>;
+
+constexpr void add(ByteSet& set, std::string_view bytes) {
+  for (const char byte : bytes) set[static_cast<unsigned char>(byte)] = true;
+}
+
+constexpr ByteSet make_set(std::string_view some, std::string_view more) {
+  ByteSet set{};
+  add(set, some);
+  add(set, more);
+  return set;
+}
+
+constexpr ByteSet kKeptInStrings = make_set(kAlphanumeric, "");
+constexpr ByteSet kKeptInPaths = make_set(kAlphanumeric, kPathPunctuation);
+
+void append_digits(std::string& text, char byte, const char* digits) {
+  text += digits[octet(byte) >> 4];
+  text += digits[octet(byte) & 15];
+}
+
+std::string escape(std::string_view bytes, const ByteSet& kept,
+                   const char* digits) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const char byte : bytes) {
+    if (kept[octet(byte)]) {
+      text += byte;
+    } else {
+      text += '%';
+      append_digits(text, byte, digits);
+    }
+  }
+  return text;
+}
+
+}  // namespace
+
+bool IsBeginWith(const wchar_t* text, unsigned text_len,
+                 const std::wstring& prefix) {
+  if (text == nullptr || prefix.size() > text_len) return false;
+  return std::wstring_view(text, prefix.size()) == prefix;
+}
+
+bool IsEndWith(const char* text, unsigned text_len, const std::string& suffix) {
+  if (text == nullptr || suffix.size() > text_len) return false;
+  const std::size_t start = text_len - suffix.size();
+  return std::string_view(text + start, suffix.size()) == suffix;
+}
+
+int GetLine(const char* buf, int len, std::string& line) {
+  const std::string_view bytes = bytes_of(buf, len);
+  const std::size_t line_feed = bytes.find('\n');
+  if (line_feed == std::string_view::npos) return 0;
+  line = bytes.substr(0, line_feed + 1);
+  return static_cast<int>(line_feed + 1);
+}
+
+std::string& TrimLeft(std::string& s) {
+  return s.erase(0, s.find_first_not_of(kBlanks));
+}
+
+std::string& TrimRight(std::string& s) {
+  const std::size_t last = s.find_last_not_of(kBlanks);
+  return s.erase(last == std::string::npos ? 0 : last + 1);
+}
+
+std::string& TrimRight(std::string& s, const std::string& suffix) {
+  if (suffix.size() > s.size()) return s;
+  const std::size_t start = s.size() - suffix.size();
+  if (s.compare(start, suffix.size(), suffix) == 0) s.erase(start);
+  return s;
+}
+
+void SplitNetPathFile(const std::string& path, std::string& dir,
+                      std::string& file) {
+  const std::size_t slash = path.rfind('/');
+  if (slash == std::string::npos) {
+    file = path;
+  } else if (slash + 1 == path.size()) {
+    dir = path;
+  } else {
+    std::string rest = path.substr(slash + 1);
+    dir = path.substr(0, slash + 1);
+    file = std::move(rest);
+  }
+}
+
+void SplitFileName(const std::string& name, std::string& base,
+                   std::string& ext) {
+  const std::size_t dot = name.rfind('.');
+  if (dot == std::string::npos) {
+    base = name;
+  } else if (dot + 1 == name.size()) {
+    base = name.substr(0, dot);
+  } else {
+    std::string rest = name.substr(dot + 1);
+    base = name.substr(0, dot);
+    ext = std::move(rest);
+  }
+}
+
+bool IsValidWindowsFileName(const std::string& name) {
+  if (name.empty() || name.size() > kLongestFileName) return false;
+  return name.find_first_of(kForbiddenInFileNames) == std::string::npos;
+}
+
+bool StringToInt64(const std::string& s, long long& value) {
+  if (s.empty()) return false;
+  const bool negative = s.front() == '-';
+  long long sum = 0;
+  for (std::size_t i = negative ? 1 : 0; i < s.size(); ++i) {
+    if (s[i] < '0' || s[i] > '9') return false;
+    // The built-ins wrap around without undefined behaviour.
+    __builtin_mul_overflow(sum, 10, &sum);
+    __builtin_add_overflow(sum, s[i] - '0', &sum);
+  }
+  if (negative) __builtin_sub_overflow(0, sum, &sum);
+  value = sum;
+  return true;
+}
+
+std::string Int64ToString(long long value) { return std::to_string(value); }
+
+std::string Data2BitString(const char* data, int bit_count) {
+  if (data == nullptr || bit_count <= 0) return {};
+  std::string bits(static_cast<std::size_t>(bit_count), '0');
+  for (std::size_t i = 0; i < bits.size(); ++i) {
+    if ((octet(data[i / 8]) << i % 8 & 0x80) != 0) bits[i] = '1';
+  }
+  return bits;
+}
+
+std::string DataToHexString(const char* data, int len,
+                            const std::string& separator) {
+  const std::string_view bytes = bytes_of(data, len);
+  std::string text;
+  text.reserve(bytes.size() * (2 + separator.size()));
+  for (const char byte : bytes) {
+    append_digits(text, byte, kLowerHexDigits);
+    text += separator;
+  }
+  return text;
+}
+
+std::string EscapeString(const char* data, int len) {
+  return escape(bytes_of(data, len), kKeptInStrings, kUpperHexDigits);
+}
+
+std::string EscapePath(const char* data, int len) {
+  return escape(bytes_of(data, len), kKeptInPaths, kLowerHexDigits);
+}
+
+std::string UnescapeString(const std::string& s) {
+  std::string text;
+  text.reserve(s.size());
+  for (std::size_t i = 0; i < s.size(); ++i) {
+    if (s[i] != '%') {
+      text += s[i] == '+' ? ' ' : s[i];
+      continue;
+    }
+    if (s.size() - i < 3) return {};
+    const unsigned high = hex_value(s[i + 1]);
+    const unsigned low = hex_value(s[i + 2]);
+    if (((high | low) & kNoHexDigit) != 0) return {};
+    text += static_cast<char>(high << 4 | low);
+    i += 2;
+  }
+  return text;
+}
+
+}  // namespace xstringutil
