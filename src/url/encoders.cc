@@ -1,0 +1,140 @@
+#include "url/encoders.h"
+
+#include <cctype>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "text/hex_digits.h"
+#include "url/base_decoding.h"
+#include "url/digit_tables.h"
+#include "url/percent_coding.h"
+
+namespace {
+
+using namespace qk::url;
+
+constexpr DigitPairs<16> kBase16Pairs =
+    make_digit_pairs<16>(qk::text::kUpperHexDigits);
+constexpr DigitPairs<32> kBase32Pairs = make_digit_pairs<32>(kBase32Alphabet);
+
+constexpr std::size_t kPairSize = 2;
+
+void encode_base32_group(const unsigned char* bytes, char* digits) {
+  std::uint64_t bits = 0;
+  for (std::size_t i = 0; i < kBase32GroupBytes; ++i)
+    bits = bits << 8 | bytes[i];
+  for (unsigned shift = 40; shift != 0; digits += kPairSize) {
+    shift -= 10;
+    std::memcpy(digits, kBase32Pairs[bits >> shift & 1023].data(), kPairSize);
+  }
+}
+
+char inverted_digit(unsigned half) {
+  return static_cast<char>(half < 10 ? 'A' + half : '0' + half);
+}
+
+// Decodes the digits that fill no group, or whose group holds a bad unit.
+// Returns whether all are digits; `written` counts on.
+bool decode_base32_rest(const char* digits, std::size_t count, char* bytes,
+                        std::size_t& written) {
+  unsigned bits = 0;
+  unsigned pending = 0;
+  for (std::size_t i = 0; i < count; ++i) {
+    const unsigned value = value_of(kBase32Values, digits[i]);
+    if (!is_digit_value(value)) return false;
+    bits = (bits << 5 | value) & 0xFFF;
+    pending += 5;
+    if (pending < 8) continue;
+    pending -= 8;
+    bytes[written++] = static_cast<char>(bits >> pending & 0xFF);
+  }
+  return true;
+}
+
+}  // namespace
+
+// Too short a text to run out of memory over.
+const std::string DefaultBase32Map(kBase32Alphabet);  // NOLINT(cert-err58-cpp)
+
+std::string encode_base16(const void* bytes, unsigned long length) {
+  const auto* in = static_cast<const unsigned char*>(bytes);
+  std::string text(kPairSize * length, '\0');
+  char* digits = text.data();
+  for (unsigned long i = 0; i < length; ++i) {
+    std::memcpy(digits + kPairSize * i, kBase16Pairs[in[i]].data(), kPairSize);
+  }
+  return text;
+}
+
+bool decode_base16(const char* text, unsigned long length, std::string& out) {
+  const std::size_t pairs = length / 2;
+  out.resize(pairs);
+  const std::size_t written =
+      decode_base16_pairs(kBase16Values, text, pairs, out.data());
+  if (written == pairs) {
+    return length % 2 == 0 ||
+           is_digit_value(value_of(kBase16Values, text[length - 1]));
+  }
+  const unsigned high = value_of(kBase16Values, text[2 * written]);
+  if (is_digit_value(high)) out[written] = static_cast<char>(high << 4);
+  return false;
+}
+
+std::string encode_base32(const void* bytes, unsigned long length) {
+  const auto* in = static_cast<const unsigned char*>(bytes);
+  const unsigned long groups = length / kBase32GroupBytes;
+  const unsigned long rest = length % kBase32GroupBytes;
+  const unsigned long rest_digits = (8 * rest + 4) / 5;
+  std::string text(kBase32GroupDigits * groups + rest_digits, '\0');
+  char* digits = text.data();
+  for (unsigned long i = 0; i < groups; ++i) {
+    encode_base32_group(in, digits);
+    in += kBase32GroupBytes;
+    digits += kBase32GroupDigits;
+  }
+  if (rest == 0) return text;
+  unsigned char last_bytes[kBase32GroupBytes] = {};
+  char last_digits[kBase32GroupDigits];
+  std::memcpy(last_bytes, in, rest);
+  encode_base32_group(last_bytes, last_digits);
+  std::memcpy(digits, last_digits, rest_digits);
+  return text;
+}
+
+bool decode_base32(const char* text, unsigned long length, std::string& out) {
+  const unsigned long whole = length / kBase32GroupDigits;
+  const unsigned long rest_digits = length % kBase32GroupDigits;
+  out.resize(kBase32GroupBytes * whole + rest_digits * 5 / 8);
+  const std::size_t groups =
+      decode_base32_groups(kBase32Values, text, whole, out.data());
+  std::size_t written = kBase32GroupBytes * groups;
+  const std::size_t read = kBase32GroupDigits * groups;
+  const bool valid =
+      decode_base32_rest(text + read, length - read, out.data(), written);
+  out.resize(written);
+  return valid;
+}
+
+std::string encode_url(const void* bytes, unsigned long length) {
+  const auto* in = static_cast<const unsigned char*>(bytes);
+  std::string text;
+  text.reserve(3 * length + 1);
+  for (unsigned long i = 0; i < length; ++i) {
+    if (std::isalpha(in[i]) != 0) {
+      text += static_cast<char>(in[i]);
+    } else {
+      text += {'%', inverted_digit(in[i] >> 4U), inverted_digit(in[i] & 15U)};
+    }
+  }
+  text += '\0';
+  return text;
+}
+
+bool decode_url(const char* text, unsigned long length, std::string& out) {
+  out.resize(length);
+  const char* end = percent_decode(std::string_view(text, length), out.data());
+  out.resize(static_cast<std::size_t>(end - out.data()));
+  return true;
+}

@@ -1,0 +1,245 @@
+// The base64 functions with C linkage.
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <string_view>
+
+#include "url/digit_tables.h"
+#include "url/korvane_links.h"
+
+namespace {
+
+using namespace qk::url;
+
+constexpr std::string_view kAlphabet =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+constexpr DigitPairs<64> kPairs = make_digit_pairs<64>(kAlphabet);
+constexpr DigitValues kValues = make_digit_values(kAlphabet);
+
+constexpr std::size_t kPairSize = 2;
+constexpr std::size_t kGroupBytes = 3;
+constexpr std::size_t kGroupDigits = 4;
+constexpr unsigned kMostPadding = 2;
+
+// What a digit adds to the 24 bits of its group, by its place in it. More than
+// 24 bits for what is no digit.
+constexpr std::uint32_t kNoGroup = 1U << 24;
+using PlacedValues = std::array<std::uint32_t, 256>;
+
+constexpr std::array<PlacedValues, kGroupDigits> make_placed_values() {
+  std::array<PlacedValues, kGroupDigits> placed{};
+  for (unsigned place = 0; place < kGroupDigits; ++place) {
+    for (std::size_t i = 0; i < kValues.size(); ++i) {
+      const std::uint32_t value = kValues[i];
+      placed[place][i] =
+          is_digit_value(value) ? value << (18 - 6 * place) : kNoGroup;
+    }
+  }
+  return placed;
+}
+
+constexpr std::array<PlacedValues, kGroupDigits> kPlaced = make_placed_values();
+
+unsigned char octet(char unit) { return static_cast<unsigned char>(unit); }
+
+// Writes the four digits of three bytes.
+void encode_group(const unsigned char* bytes, char* digits) {
+  const std::uint32_t bits =
+      std::uint32_t{bytes[0]} << 16 | std::uint32_t{bytes[1]} << 8 | bytes[2];
+  std::memcpy(digits, kPairs[bits >> 12].data(), kPairSize);
+  std::memcpy(digits + kPairSize, kPairs[bits & 4095].data(), kPairSize);
+}
+
+// Writes the digits of whole groups, a few at a time, so that a compiler which
+// unrolls the inner loop pays for the outer one less often. Returns their end.
+char* encode_groups(const unsigned char* bytes, std::size_t groups,
+                    char* digits) {
+  constexpr std::size_t kTurn = 4;
+  for (; groups >= kTurn; groups -= kTurn) {
+    for (std::size_t i = 0; i < kTurn; ++i) {
+      encode_group(bytes + kGroupBytes * i, digits + kGroupDigits * i);
+    }
+    bytes += kGroupBytes * kTurn;
+    digits += kGroupDigits * kTurn;
+  }
+  for (; groups != 0; --groups) {
+    encode_group(bytes, digits);
+    bytes += kGroupBytes;
+    digits += kGroupDigits;
+  }
+  return digits;
+}
+
+// Writes the digits of the last one or two bytes and the padding.
+void encode_rest(const unsigned char* bytes, std::size_t count, char* digits) {
+  const unsigned char second = count > 1 ? bytes[1] : 0;
+  const unsigned char group[kGroupBytes] = {bytes[0], second, 0};
+  encode_group(group, digits);
+  if (count == 1) digits[2] = '=';
+  digits[3] = '=';
+}
+
+// Whether `size` fits in `*room`; if not, `*room` becomes `size`.
+bool fits(std::uint64_t size, unsigned* room) {
+  if (size <= *room) return true;
+  constexpr std::uint64_t kMost = std::numeric_limits<unsigned>::max();
+  *room = static_cast<unsigned>(size < kMost ? size : kMost);
+  return false;
+}
+
+bool is_line_break(char unit) { return unit == '\r' || unit == '\n'; }
+
+// How many bytes the line break at the start of `text` takes: a line feed, with
+// or without a carriage return before it; 0 if there is none.
+std::size_t line_break_size(std::string_view text) {
+  if (text[0] == '\n') return 1;
+  return text.substr(0, 2) == "\r\n" ? 2 : 0;
+}
+
+constexpr std::size_t kBlock = 32;
+
+// Whether all kBlock units are digits, told by arithmetic alone: without a
+// look-up or a branch the compiler checks many at once.
+bool is_block_of_digits(const char* block) {
+  const auto is_within = [](unsigned char unit, unsigned char first,
+                            unsigned char count) {
+    return static_cast<unsigned char>(static_cast<unsigned char>(unit - first) <
+                                      count);
+  };
+  unsigned char others = 0;
+  for (std::size_t i = 0; i < kBlock; ++i) {
+    const unsigned char unit = octet(block[i]);
+    const unsigned char digit =
+        is_within(unit, 'A', 26) | is_within(unit, 'a', 26) |
+        is_within(unit, '0', 10) | is_within(unit, '+', 1) |
+        is_within(unit, '/', 1);
+    others |= digit ^ 1;
+  }
+  return others == 0;
+}
+
+// The length of the run of digits at the start of `text`.
+std::size_t digit_run(std::string_view text) {
+  std::size_t size = 0;
+  while (text.size() - size >= kBlock &&
+         is_block_of_digits(text.data() + size)) {
+    size += kBlock;
+  }
+  while (size < text.size() && is_digit_value(value_of(kValues, text[size]))) {
+    ++size;
+  }
+  return size;
+}
+
+// Counts digits and padding; false if anything else than line breaks is among
+// them, if there is more padding than a group can have, or a digit behind it.
+bool count_significant(std::string_view text, std::uint64_t& count) {
+  unsigned padding = 0;
+  count = 0;
+  while (!text.empty()) {
+    std::size_t size = digit_run(text);
+    if (size != 0) {
+      if (padding != 0) return false;
+      count += size;
+    } else if (text[0] == '=') {
+      if (++padding > kMostPadding) return false;
+      size = 1;
+    } else {
+      size = line_break_size(text);
+      if (size == 0) return false;
+    }
+    text.remove_prefix(size);
+  }
+  count += padding;
+  return true;
+}
+
+// Gathers the next group past line breaks; padding counts as digits of 0.
+// Returns how many digits and padding there are, 4 unless the text ends.
+std::size_t read_group(std::string_view text, std::size_t& position,
+                       unsigned& bits, std::size_t& padding) {
+  std::size_t count = 0;
+  for (; position < text.size() && count < kGroupDigits; ++position) {
+    const char unit = text[position];
+    if (is_line_break(unit)) continue;
+    if (unit == '=') ++padding;
+    bits = bits << 6 | (unit == '=' ? 0 : value_of(kValues, unit));
+    ++count;
+  }
+  return count;
+}
+
+void write_bytes(unsigned bits, std::size_t count, unsigned char* bytes) {
+  for (std::size_t i = 0; i < count; ++i) {
+    bytes[i] = static_cast<unsigned char>(bits >> (16 - 8 * i) & 0xFF);
+  }
+}
+
+// Decodes groups of four digits that stand together; returns how many.
+std::size_t decode_groups(std::string_view text, unsigned char* bytes) {
+  const std::size_t groups = text.size() / kGroupDigits;
+  for (std::size_t i = 0; i < groups; ++i) {
+    const char* digits = text.data() + kGroupDigits * i;
+    const std::uint32_t bits =
+        kPlaced[0][octet(digits[0])] | kPlaced[1][octet(digits[1])] |
+        kPlaced[2][octet(digits[2])] | kPlaced[3][octet(digits[3])];
+    if (bits >= kNoGroup) return i;
+    bytes[0] = static_cast<unsigned char>(bits >> 16);
+    bytes[1] = static_cast<unsigned char>(bits >> 8 & 0xFF);
+    bytes[2] = static_cast<unsigned char>(bits & 0xFF);
+    bytes += kGroupBytes;
+  }
+  return groups;
+}
+
+// Decodes valid text; a last group of fewer than four digits gives nothing.
+std::size_t decode(std::string_view text, unsigned char* bytes) {
+  std::size_t written = 0;
+  std::size_t position = 0;
+  for (;;) {
+    const std::size_t groups =
+        decode_groups(text.substr(position), bytes + written);
+    written += kGroupBytes * groups;
+    position += kGroupDigits * groups;
+    unsigned bits = 0;
+    std::size_t padding = 0;
+    if (read_group(text, position, bits, padding) < kGroupDigits) {
+      return written;
+    }
+    write_bytes(bits, kGroupBytes - padding, bytes + written);
+    written += kGroupBytes - padding;
+  }
+}
+
+}  // namespace
+
+int base64_encode(char* destination, unsigned* destination_length,
+                  const unsigned char* source, unsigned source_length) {
+  if (source == nullptr || source_length == 0) return BASE64_E_BUFFER;
+  const std::uint64_t length =
+      (std::uint64_t{source_length} + 2) / kGroupBytes * kGroupDigits;
+  if (!fits(length + 1, destination_length)) return BASE64_E_BUFFER;
+  const std::size_t groups = source_length / kGroupBytes;
+  const std::size_t rest = source_length % kGroupBytes;
+  char* digits = encode_groups(source, groups, destination);
+  if (rest != 0) encode_rest(source + kGroupBytes * groups, rest, digits);
+  destination[length] = '\0';
+  *destination_length = static_cast<unsigned>(length);
+  return 0;
+}
+
+int base64_decode(unsigned char* destination, unsigned* destination_length,
+                  const char* source, unsigned source_length) {
+  if (source == nullptr || source_length == 0) return BASE64_E_CHARACTER;
+  const std::string_view text(source, source_length);
+  std::uint64_t significant = 0;
+  if (!count_significant(text, significant)) return BASE64_E_CHARACTER;
+  if (significant == 0) return 0;
+  if (!fits((6 * significant + 7) / 8, destination_length)) {
+    return BASE64_E_BUFFER;
+  }
+  *destination_length = static_cast<unsigned>(decode(text, destination));
+  return 0;
+}

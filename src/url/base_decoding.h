@@ -1,0 +1,79 @@
+// Base16 and base32 decoding into a buffer, for every format that reads hashes.
+#ifndef KORVANE_URL_BASE_DECODING_H_
+#define KORVANE_URL_BASE_DECODING_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "url/digit_tables.h"
+
+namespace qk::url {
+
+constexpr std::string_view kBase32Alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ234567";
+
+constexpr DigitValues make_base16_values() {
+  DigitValues values = make_digit_values("0123456789");
+  set_values(values, "ABCDEF", 10);
+  set_values(values, "abcdef", 10);
+  // Kept: callers rely on the characters between "9" and "A" counting as 9.
+  for (char unit = '9' + 1; unit < 'A'; ++unit) {
+    values[static_cast<unsigned char>(unit)] = 9;
+  }
+  return values;
+}
+
+constexpr DigitValues make_base32_values() {
+  DigitValues values = make_digit_values(kBase32Alphabet);
+  set_values(values, "abcdefghijklmnopqrstuvwxyz", 0);
+  return values;
+}
+
+inline constexpr DigitValues kBase16Values = make_base16_values();
+inline constexpr DigitValues kBase32Values = make_base32_values();
+inline constexpr DigitValues kUpperBase32Values =
+    make_digit_values(kBase32Alphabet);
+
+constexpr std::size_t kBase32GroupDigits = 8;
+constexpr std::size_t kBase32GroupBytes = 5;
+
+// Decodes `pairs` pairs of digits into as many bytes. Stops before the first
+// pair that holds no two digits; returns the number of bytes written.
+template <typename Byte, typename Unit>
+std::size_t decode_base16_pairs(const DigitValues& values, const Unit* digits,
+                                std::size_t pairs, Byte* bytes) {
+  for (std::size_t i = 0; i < pairs; ++i) {
+    const unsigned high = value_of(values, digits[2 * i]);
+    const unsigned low = value_of(values, digits[2 * i + 1]);
+    if (!is_digit_value(high | low)) return i;
+    bytes[i] = static_cast<Byte>(high << 4 | low);
+  }
+  return pairs;
+}
+
+// Decodes `groups` groups of 8 digits into 5 bytes each. Stops before the
+// first group with a unit that is no digit; returns the number of groups
+// written.
+template <typename Byte, typename Unit>
+std::size_t decode_base32_groups(const DigitValues& values, const Unit* digits,
+                                 std::size_t groups, Byte* bytes) {
+  for (std::size_t i = 0; i < groups; ++i) {
+    std::uint64_t bits = 0;
+    unsigned seen = 0;
+    for (std::size_t k = 0; k < kBase32GroupDigits; ++k) {
+      const unsigned value = value_of(values, *digits++);
+      seen |= value;
+      bits = bits << 5 | value;
+    }
+    if (!is_digit_value(seen)) return i;
+    for (unsigned shift = 40; shift != 0;) {
+      shift -= 8;
+      *bytes++ = static_cast<Byte>(bits >> shift & 0xFF);
+    }
+  }
+  return groups;
+}
+
+}  // namespace qk::url
+
+#endif  // KORVANE_URL_BASE_DECODING_H_
