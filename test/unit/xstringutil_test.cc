@@ -9,7 +9,7 @@
 
 namespace {
 
-using namespace xstringutil;  // NOLINT(google-build-using-namespace)
+using namespace xstringutil;
 
 constexpr char kUntouched[] = "untouched";
 
