@@ -1,0 +1,153 @@
+#include "url/ed2k_file_link.h"
+
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+#include "host/korvane_host.h"
+#include "text/hex_digits.h"
+#include "url/encoders.h"
+
+namespace {
+
+template <typename Char>
+using String = std::basic_string<Char>;
+
+template <typename Char>
+void append_ascii(String<Char>& text, std::string_view ascii) {
+  text.append(ascii.begin(), ascii.end());
+}
+
+void append_wide(std::string& text, const std::wstring& wide) {
+  text += wstring_2_utf8(wide);
+}
+void append_wide(std::wstring& text, const std::wstring& wide) { text += wide; }
+
+void append_host(std::string& text, const std::string& host) { text += host; }
+void append_host(std::wstring& text, const std::string& host) {
+  text += string_2_wstring(host);
+}
+
+std::string digits_of(const ed2k_file_link::file_hash& hash) {
+  return encode_base16(hash.octets.data(), hash.octets.size());
+}
+
+template <typename Char>
+void append_part_hashes(String<Char>& text, const ed2k_file_link& link) {
+  append_ascii(text, "p=");
+  const char* separator = "";
+  for (const ed2k_file_link::file_hash& hash : link.get_part_hash()) {
+    append_ascii(text, std::exchange(separator, ":"));
+    append_ascii(text, digits_of(hash));
+  }
+  append_ascii(text, "|");
+}
+
+template <typename Char>
+void append_sources(String<Char>& text, const ed2k_file_link& link) {
+  append_ascii(text, "/|sources");
+  for (const ed2k_file_link::source& source : link.get_source_list()) {
+    append_ascii(text, ",");
+    append_host(text, source.host);
+    append_ascii(text, ":");
+    append_ascii(text, std::to_string(source.port));
+  }
+  append_ascii(text, "|");
+}
+
+template <typename Char>
+void print(const ed2k_file_link& link, unsigned long flags,
+           String<Char>& text) {
+  text.clear();
+  append_ascii(text, "ed2k://|file|");
+  append_wide(text, link.get_file_name());
+  append_ascii(text, "|");
+  append_ascii(text, std::to_string(link.get_file_size()));
+  append_ascii(text, "|");
+  append_ascii(text, digits_of(link.get_file_hash()));
+  append_ascii(text, "|");
+  if ((flags & ed2k_file_link::kPrintRootHash) != 0) {
+    const auto& octets = link.get_root_hash().octets;
+    append_ascii(text, "h=");
+    append_ascii(text, encode_base32(octets.data(), octets.size()));
+    append_ascii(text, "|");
+  }
+  if ((flags & ed2k_file_link::kPrintPartHashes) != 0) {
+    append_part_hashes(text, link);
+  }
+  if ((flags & ed2k_file_link::kPrintHttpUrl) != 0) {
+    append_ascii(text, "s=");
+    append_wide(text, link.get_http_url());
+    append_ascii(text, "|");
+  }
+  if ((flags & ed2k_file_link::kPrintSources) != 0) append_sources(text, link);
+  append_ascii(text, "/");
+}
+
+// Built in a new text, so that many replacements cost no more than the text.
+template <typename Char>
+void replace_all(String<Char>& text, const String<Char>& from,
+                 const String<Char>& to) {
+  String<Char> result;
+  std::size_t copied = 0;
+  std::size_t found = text.find(from);
+  while (found != String<Char>::npos) {
+    result.append(text, copied, found - copied).append(to);
+    copied = found + from.size();
+    if (found == text.size()) break;  // an empty `from` stands at the end too
+    found = text.find(from, from.empty() ? found + 1 : copied);
+  }
+  result.append(text, copied);
+  text = std::move(result);
+}
+
+}  // namespace
+
+ed2k_file_link::ed2k_file_link(const std::wstring& name, unsigned long size,
+                               const file_hash& hash)
+    : file_name_(name), file_size_(size), file_hash_(hash) {}
+
+void ed2k_file_link::add_source(const std::string& host, std::uint16_t port) {
+  sources_.push_back({host, port});
+}
+
+bool ed2k_file_link::get_ed2k_url(std::string& out, unsigned long flags) const {
+  print(*this, flags, out);
+  return true;
+}
+
+bool ed2k_file_link::get_ed2k_url(std::wstring& out,
+                                  unsigned long flags) const {
+  print(*this, flags, out);
+  return true;
+}
+
+void ed2k_file_link::string_replace(std::string& text, const std::string& from,
+                                    const std::string& to) {
+  replace_all(text, from, to);
+}
+
+void ed2k_file_link::string_replace(std::wstring& text,
+                                    const std::wstring& from,
+                                    const std::wstring& to) {
+  replace_all(text, from, to);
+}
+
+std::string char2hex(unsigned char byte) {
+  return {qk::text::kUpperHexDigits[byte >> 4U],
+          qk::text::kUpperHexDigits[byte & 15U]};
+}
+
+std::string utf8_2_hexstr(const std::string& utf8) {
+  std::string text;
+  text.reserve(utf8.size());
+  for (const char unit : utf8) {
+    const auto byte = static_cast<unsigned char>(unit);
+    if (byte < 0x80) {
+      text += unit;
+    } else {
+      text += '%' + char2hex(byte);
+    }
+  }
+  return text;
+}

@@ -1,1 +1,805 @@
+#include "url/ed2k_file_link.h"
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <cwchar>
+#include <iterator>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "allocation_counter.h"
+#include "exact_copy.h"
+#include "host/korvane_host.h"
+#include "url/encoders.h"
+#include "url/korvane_links.h"
+
+namespace {
+
+using namespace std::string_literals;
+
+// Too short to run out of memory over. NOLINTBEGIN(cert-err58-cpp)
+const std::wstring kName = L"a.bin";
+const std::wstring kHash = L"0123456789ABCDEF0123456789ABCDEF";
+const std::wstring kRoot = L"AERUKZ4JVPG66AJDIVTYTK6N54ASGRLH";
+const std::wstring kLink = L"ed2k://|file|a.bin|100|" + kHash + L"|/";
+constexpr char kHashText[] = "0123456789ABCDEF0123456789ABCDEF";
+constexpr char kRootText[] = "0123456789ABCDEF0123456789ABCDEF01234567";
+const std::string kNoRoot(40, '0');
+// NOLINTEND(cert-err58-cpp)
+
+std::wstring link_with(const std::wstring& fields) {
+  return L"ed2k://|file|a.bin|100|" + kHash + L"|" + fields;
+}
+std::wstring link_named(const std::wstring& name) {
+  return L"ed2k://|file|" + name + L"|100|" + kHash + L"|/";
+}
+std::wstring link_sized(const std::wstring& size) {
+  return L"ed2k://|file|a.bin|" + size + L"|" + kHash + L"|/";
+}
+std::wstring link_hashed(const std::wstring& hash) {
+  return L"ed2k://|file|a.bin|100|" + hash + L"|/";
+}
+
+template <typename Hash>
+std::string text_of(const Hash& hash) {
+  return encode_base16(hash.octets.data(), hash.octets.size());
+}
+
+std::mt19937 seeded(unsigned seed) { return std::mt19937(seed); }
+
+ed2k_file_link fresh_link() { return {L"nil", 0, {}}; }
+
+struct CAnswer {
+  long code;
+  ed2k_url_info_u info;
+};
+
+CAnswer c_answer(const std::wstring& url) {
+  const ExactCopy copy{std::wstring_view(url)};
+  CAnswer answer{};
+  std::memset(&answer.info, '#', sizeof answer.info);
+  answer.code = parse_ed2k_url_u(copy.data(), copy.size(), &answer.info);
+  return answer;
+}
+
+bool is_untouched(const ed2k_url_info_u& info) {
+  const auto* bytes = reinterpret_cast<const unsigned char*>(&info);
+  return std::all_of(bytes, bytes + sizeof info,
+                     [](unsigned char byte) { return byte == '#'; });
+}
+
+// The name in the record for a name of the class.
+std::wstring cut(const std::wstring& name) {
+  return name.substr(0, std::min<std::size_t>(name.find(L'\0'), 1023));
+}
+
+// A link read by both skins, which must agree.
+struct Parsed {
+  explicit Parsed(const std::wstring& url)
+      : link(fresh_link()), valid(link.create_from_ed2k_url(url)) {
+    const CAnswer answer = c_answer(url);
+    EXPECT_EQ(answer.code, valid ? 0 : -1) << testing::PrintToString(url);
+    if (!valid) {
+      EXPECT_TRUE(is_untouched(answer.info)) << testing::PrintToString(url);
+      return;
+    }
+    std::wstring name = cut(link.get_file_name());
+    name.resize(std::size(answer.info.name));
+    EXPECT_EQ(
+        std::wstring(std::begin(answer.info.name), std::end(answer.info.name)),
+        name);
+    EXPECT_EQ(answer.info.size, static_cast<double>(link.get_file_size()));
+    EXPECT_EQ(encode_base16(answer.info.hash, sizeof answer.info.hash),
+              text_of(link.get_file_hash()));
+  }
+  std::string part_hashes() const {
+    std::string text;
+    for (const auto& hash : link.get_part_hash()) text += text_of(hash) + " ";
+    return text;
+  }
+  std::string sources() const {
+    std::string text;
+    for (const auto& source : link.get_source_list()) {
+      text += source.host + "=" + std::to_string(source.port) + " ";
+    }
+    return text;
+  }
+  ed2k_file_link link;
+  bool valid;
+};
+
+TEST(Ed2kLink, HoldsWhatItWasMadeWith) {
+  ed2k_file_link link(kName, 7, {{{1, 2}}});
+  EXPECT_EQ(link.get_file_name(), kName);
+  EXPECT_EQ(link.get_file_size(), 7U);
+  EXPECT_EQ(text_of(link.get_file_hash()), "0102" + std::string(28, '0'));
+  EXPECT_EQ(text_of(link.get_root_hash()), kNoRoot);
+  EXPECT_EQ(link.get_http_url(), L"");
+  link.set_file_name(L"n");
+  link.set_file_size(8);
+  link.set_file_hash({{{3}}});
+  link.set_part_hash({{{{4}}}, {{{5}}}});
+  link.set_root_hash({{{6}}});
+  link.set_http_url(L"u");
+  link.add_source("", 0);
+  link.add_source("", 0);
+  EXPECT_EQ(link.get_file_name() + link.get_http_url(), L"nu");
+  EXPECT_EQ(link.get_file_size(), 8U);
+  EXPECT_EQ(link.get_file_hash(), (uintx<128, 16>{{{3}}}));
+  EXPECT_EQ(link.get_part_hash().back(), (uintx<128, 16>{{{5}}}));
+  EXPECT_NE(link.get_root_hash(), (uintx<160, 20>{}));
+  EXPECT_EQ(link.get_source_list().size(), 2U);
+}
+
+TEST(Ed2kLink, StringReplaceGoesOnBehindWhatItPutIn) {
+  const struct {
+    std::string text, from, to, want;
+  } kCases[] = {
+      {"a|b|", "|", "%7C", "a%7Cb%7C"},
+      {"a%7cb", "%7C", "|", "a%7cb"},
+      {"aaa", "a", "aa", "aaaaaa"},
+      {"aaa", "aa", "b", "ba"},
+      {"ab", "abc", "x", "ab"},
+      {"ab", "ab", "", ""},
+      {"ab", "", "-", "-a-b-"},
+      {"", "", "-", "-"},
+      {"ab", "", "", "ab"},
+      {"", "", "", ""},
+      {"", "a", "b", ""},
+      {"%%7C7C", "%7C", "|", "%|7C"},
+      {"xab", "x", "", "ab"},
+  };
+  const auto wide = [](const std::string& text) {
+    return std::wstring(text.begin(), text.end());
+  };
+  for (const auto& test : kCases) {
+    std::string narrow = test.text;
+    std::wstring text = wide(test.text);
+    ed2k_file_link::string_replace(narrow, test.from, test.to);
+    ed2k_file_link::string_replace(text, wide(test.from), wide(test.to));
+    EXPECT_EQ(narrow, test.want) << test.text;
+    EXPECT_EQ(text, wide(test.want)) << test.text;
+  }
+}
+
+TEST(Ed2kLink, NeedsFivePiecesOfWhichTwoAreChecked) {
+  const struct {
+    std::wstring url;
+    bool want;
+  } kCases[] = {
+      {kLink, true},
+      {L"", false},
+      {L"|||||", false},
+      {L"ed2k://|file|a.bin|100|" + kHash, true},
+      {L"||ed2k://||file|a.bin||100|" + kHash + L"||", true},
+      {L"ed2k://|file|a.bin|100|", false},
+      {L"ED2K://x|FILEX|a.bin|100|" + kHash, true},
+      {L"Ed2k://|FiLe|a.bin|100|" + kHash, true},
+      {L"ed2k:/|file|a.bin|100|" + kHash, false},
+      {L"ed2k:/x|file|a.bin|100|" + kHash, false},
+      {L"xed2k://|file|a.bin|100|" + kHash, false},
+      {L"ed2k://|fil|a.bin|100|" + kHash, false},
+      {L"ed2k://|filx|a.bin|100|" + kHash, false},
+      {L"ed2k://|xfile|a.bin|100|" + kHash, false},
+      {L"ed2\x212A://|file|a.bin|100|" + kHash, false},
+      {kLink + L"anything", true},
+      {kLink + L"|x=|y|sources|,", true},
+  };
+  for (const auto& test : kCases) {
+    EXPECT_EQ(Parsed(test.url).valid, test.want)
+        << testing::PrintToString(test.url);
+  }
+}
+
+TEST(Ed2kLink, ReadsEscapedSeparatorsOnlyWithoutAPlainOne) {
+  std::wstring escaped = link_with(L"h=" + kRoot + L"|/|sources,a:1|/");
+  ed2k_file_link::string_replace(escaped, L"|", L"%7C");
+  const Parsed parsed(escaped);
+  EXPECT_TRUE(parsed.valid);
+  EXPECT_EQ(parsed.link.get_file_name(), kName);
+  EXPECT_EQ(text_of(parsed.link.get_root_hash()), kRootText);
+  EXPECT_EQ(parsed.sources(), "a=1 ");
+  EXPECT_FALSE(Parsed(escaped + L"|").valid);
+  EXPECT_FALSE(Parsed(L"|" + escaped).valid);
+  std::wstring lower = escaped;
+  ed2k_file_link::string_replace(lower, L"%7C", L"%7c");
+  EXPECT_FALSE(Parsed(lower).valid);
+  // Replaced once, from the left; the empty pieces between two are left out.
+  const Parsed odd(L"ed2k://%7C%7Cfile%7Ca%%7C7%7C" + kHash);
+  EXPECT_EQ(odd.link.get_file_name(), L"a%");
+  EXPECT_EQ(odd.link.get_file_size(), 7U);
+  EXPECT_TRUE(odd.valid);
+}
+
+TEST(Ed2kLink, ReadsTheLowHalfOfTheSize) {
+  const struct {
+    std::wstring size;
+    unsigned long want;  // 0: fails
+  } kCases[] = {
+      {L"0", 0},
+      {L"1", 1},
+      {L"4294967295", 0xFFFFFFFF},
+      {L"4294967296", 0},
+      {L"4294967297", 1},
+      {L"1125899906842624", 0},
+      {L"1125899906842625", 1},
+      {L"18446744073709551615", 0xFFFFFFFF},
+      {L"18446744073709551616", 0xFFFFFFFF},
+      {L"18446744073709551617", 0xFFFFFFFF},
+      {L"9999999999999999999", 2313682943},
+      {L"-1", 0xFFFFFFFF},
+      {L"-5x", 4294967291},
+      {L"+5", 5},
+      {L" \t\n5", 5},
+      {L"12abc", 12},
+      {L"0x10", 0},
+      {L"010", 10},
+      {L"abc", 0},
+      {L" ", 0},
+      {L"- 5", 0},
+      {L"1\0002"s, 1},
+      {L"5\xD800", 5},
+      {L"\x80000035", 0},
+      {std::wstring(63, L'0') + L"12", 1},
+      {std::wstring(100, L' ') + L"12", 12},
+  };
+  for (const auto& test : kCases) {
+    const Parsed parsed(link_sized(test.size));
+    EXPECT_EQ(parsed.valid, test.want != 0)
+        << testing::PrintToString(test.size);
+    EXPECT_EQ(parsed.link.get_file_size(), test.want)
+        << testing::PrintToString(test.size);
+  }
+}
+
+TEST(Ed2kLink, ReadsEverySizeAsTheCLibraryScansIt) {
+  std::mt19937 random = seeded(1);
+  const std::wstring units = L"00123456789 \t+-x,.\x3000\x661\xFF11\xA0";
+  for (int i = 0; i < 20'000; ++i) {
+    std::wstring size(1 + random() % (i % 3 == 0 ? 70 : 6), L'0');
+    for (wchar_t& unit : size) {
+      unit = i % 3 == 0 ? static_cast<wchar_t>(L'0' + random() % 10)
+                        : units[random() % units.size()];
+    }
+    unsigned want = 777;
+    if (std::swscanf(size.c_str(), L"%I64u", &want) != 1) want = 777;
+    ed2k_file_link link(L"", 777, {});
+    link.create_from_ed2k_url(link_sized(size));
+    ASSERT_EQ(link.get_file_size(), want) << testing::PrintToString(size);
+  }
+}
+
+TEST(Ed2kLink, KeepsTheHighHalfOfTheSizeAndChecksTheWhole) {
+  constexpr unsigned long kHigh = 1UL << 32;
+  const struct {
+    unsigned long before;
+    const wchar_t* size;
+    bool valid;
+    unsigned long want;
+  } kCases[] = {
+      {5 * kHigh + 9, L"7", true, 5 * kHigh + 7},
+      {5 * kHigh, L"0", true, 5 * kHigh},
+      {5, L"x", true, 5},
+      {0, L"x", false, 0},
+      {1UL << 50, L"0", true, 1UL << 50},
+      {1UL << 50, L"1", false, (1UL << 50) + 1},
+      {(1UL << 50) - kHigh, L"4294967295", true, (1UL << 50) - 1},
+      {~0UL, L"0", false, ~0UL << 32},
+  };
+  for (const auto& test : kCases) {
+    ed2k_file_link link(L"", test.before, {});
+    EXPECT_EQ(link.create_from_ed2k_url(link_sized(test.size)), test.valid);
+    EXPECT_EQ(link.get_file_size(), test.want) << test.before;
+  }
+}
+
+TEST(Ed2kLink, TheFileHashHas32Digits) {
+  const std::wstring f(31, L'F');
+  const struct {
+    std::wstring hash;
+    std::string want;  // empty: fails
+  } kCases[] = {
+      {kHash, kHashText},
+      {L"0123456789abcdef0123456789ABCDEf", kHashText},
+      {f, ""},
+      {f + L"FF", ""},
+      {f + L"G", ""},
+      {f + L"/", ""},
+      {L"G" + f, ""},
+      {f + L":", std::string(31, 'F') + "9"},
+      {L"@" + f, "9" + std::string(31, 'F')},
+      {f + L"\xE9", ""},
+      {std::wstring(16, L'\xE9'), ""},
+      {f + L"F\0F"s, std::string(32, 'F')},
+      {f + L"F\xD800" + L"F", std::string(32, 'F')},
+      {f + L"\0F"s, ""},
+      {f + wchar_t(0x80000046), ""},
+      {f + L"\x146", ""},
+  };
+  for (const auto& test : kCases) {
+    const Parsed parsed(link_hashed(test.hash));
+    EXPECT_EQ(parsed.valid, !test.want.empty())
+        << testing::PrintToString(test.hash);
+    EXPECT_EQ(text_of(parsed.link.get_file_hash()),
+              parsed.valid ? test.want : std::string(32, '0'));
+  }
+}
+
+TEST(Ed2kLink, ReadsTheRootHashFromThirtyTwoDigits) {
+  const struct {
+    std::wstring field;
+    bool valid;
+    std::string want;
+  } kCases[] = {
+      {L"h=" + kRoot, true, kRootText},
+      {L"H=" + kRoot, true, kRootText},
+      {L"h=aerukz4jvpg66ajdivtytk6n54asgrlh", true, kRootText},
+      {L"h=" + kRoot + L"=!", true, kRootText},
+      {L"h=" + kRoot + L"A", true, kRootText},
+      {L"h=" + kRoot + L"\xE9", true, kRootText},
+      {L"h=" + kRoot + L"\0x"s, true, kRootText},
+      {L"h=" + kRoot.substr(1), false, kNoRoot},
+      {L"h=", false, kNoRoot},
+      {L"h=1" + kRoot.substr(1), false, kNoRoot},
+      {L"h=" + kRoot.substr(1) + L"=", false, kNoRoot},
+      {L"h=" + kRoot.substr(2) + L"\xE9", false, kNoRoot},
+      {L"h=" + kRoot.substr(2) + L"\0A"s, false, kNoRoot},
+      // Two characters are dropped, whatever they are, wherever the key is.
+      {L"XX" + kRoot + L"h=", true, kRootText},
+      {L"xh=" + kRoot, false, kNoRoot},
+      {L"h=" + kRoot + L"|h=" + std::wstring(32, L'A'), true, kNoRoot},
+      {L"h=" + std::wstring(32, L'A') + L"|h=" + kRoot, true, kRootText},
+      {L"h=" + kRoot + L"|h=x", false, kRootText},
+      {L"\0h=x"s, true, kNoRoot},  // no key is searched behind a zero
+      {L"h-" + kRoot, true, kNoRoot},
+      {L"=h", true, kNoRoot},
+  };
+  for (const auto& test : kCases) {
+    const Parsed parsed(link_with(test.field + L"|/"));
+    EXPECT_EQ(parsed.valid, test.valid) << testing::PrintToString(test.field);
+    EXPECT_EQ(text_of(parsed.link.get_root_hash()), test.want)
+        << testing::PrintToString(test.field);
+  }
+}
+
+TEST(Ed2kLink, CollectsPartHashes) {
+  const std::wstring zeros(32, L'0');
+  const std::string zero = std::string(32, '0') + " ";
+  const std::string hash = std::string(kHashText) + " ";
+  const struct {
+    std::wstring field;
+    bool valid;
+    std::string want;
+  } kCases[] = {
+      {L"p=" + kHash, true, hash},
+      {L"P=" + kHash + L":" + zeros, true, hash + zero},
+      {L"p=" + kHash + L"::" + zeros + L":", true, hash + zero},
+      {L":p=" + kHash, true, hash},
+      {L"p=" + kHash + L"|p=" + zeros + L"|p=" + kHash, true,
+       hash + zero + hash},
+      {L"XX" + kHash + L":" + kHash + L"p=", false, hash},
+      {L"XX" + kHash + L":" + kHash + L"00:p=", false, hash + hash},
+      {L"p=" + kHash + L"00", true, hash},
+      {L"p=" + kHash + L"0", true, hash},
+      {L"p=" + kHash + L"0G", false, ""},
+      {L"p=" + kHash + L"G", false, ""},
+      {L"p=" + kHash + L"\0G"s, true, hash},
+      {L"p=" + kHash + L"\xD800", true, hash},
+      {L"p=" + kHash + L"\xE9", false, ""},
+      {L"p=", false, ""},
+      {L"p=:" + kHash, false, ""},
+      {L"x:p=" + kHash, false, ""},
+      {L"p=" + kHash.substr(1), false, ""},
+      {L"p=" + kHash + L":" + kHash.substr(1), false, hash},
+      {L"p=" + kHash + L"\0:"s + zeros, true, hash + zero},
+  };
+  for (const auto& test : kCases) {
+    const Parsed parsed(link_with(test.field + L"|/"));
+    EXPECT_EQ(parsed.valid, test.valid) << testing::PrintToString(test.field);
+    EXPECT_EQ(parsed.part_hashes(), test.want)
+        << testing::PrintToString(test.field);
+  }
+}
+
+TEST(Ed2kLink, TellsFieldsByTheirFirstKeyInOrder) {
+  const struct {
+    std::wstring field;
+    bool valid;
+    std::wstring http_url;
+  } kCases[] = {
+      {L"s=http://host/a%20b", true, L"http://host/a%20b"},
+      {L"S=\x4E2D\x1F600\xD800", true, L"\x4E2D\x1F600\xD800"},
+      {L"s=", true, L""},
+      {L"s=a\0b"s, true, L"a\0b"s},
+      {L"s=a|s=b", true, L"b"},
+      {L"s=a|s=", true, L""},
+      {L"XXas=", true, L"as="},
+      {L"s=http://host/a?p=1", false, L""},
+      {L"s=http://host/a?P=1", false, L""},
+      {L"s=http://host/a?h=1", false, L""},
+      {L"s=sources,x", true, L"sources,x"},
+      {L"sources,s=1", true, L"urces,s=1"},
+      {L"p=h=" + kRoot.substr(2), false, L""},
+      {L"h=" + kRoot + L"p=", true, L""},
+      {L"s=http://host/a?p\0=1"s, true, L"http://host/a?p\0=1"s},
+      {L"s=\0p=1"s, true, L"\0p=1"s},
+      {L"x=y", true, L""},
+  };
+  for (const auto& test : kCases) {
+    const Parsed parsed(link_with(test.field + L"|/"));
+    EXPECT_EQ(parsed.valid, test.valid) << testing::PrintToString(test.field);
+    EXPECT_EQ(parsed.link.get_http_url(), test.http_url)
+        << testing::PrintToString(test.field);
+  }
+}
+
+TEST(Ed2kLink, CollectsSources) {
+  const struct {
+    std::wstring field;
+    bool valid;
+    std::string want;
+  } kCases[] = {
+      {L"sources,1.2.3.4:4662,host:0x10", true, "1.2.3.4=4662 host=16 "},
+      {L"SOURCES,a:1", true, "a=1 "},
+      {L"sources", true, ""},
+      {L"sources,", true, ""},
+      {L"sources,,a:1,,b:2,", true, "a=1 b=2 "},
+      {L"sources,a:1|x|sources,a:1,b:2", true, "a=1 a=1 b=2 "},
+      {L"xsources,a:1", true, "a=1 "},
+      {L",sources,a:1", true, "a=1 "},
+      {L"a,sources,b:1", false, ""},
+      {L"a:1,sources,b:1", false, ""},
+      {L"sources,1.2.3.4", false, ""},
+      {L"sources,a:1,b", false, "a=1 "},
+      {L"sources,:", true, "=0 "},
+      {L"sources,a:b:1", true, "a=0 "},
+      {L"sources,a:1:2", true, "a=1 "},
+      {L"sources,\xE4\x4E2D:1", true, "\xC3\xA4\xE4\xB8\xAD=1 "},
+      {L"sources,\xE4:1,b", false, "\xC3\xA4=1 "},
+      {L"sources,a:1\0,b"s, true, "a=1 "},
+      {L"sources,a:1,b\xD800:2,c:3", false, "a=1 "},
+      {L"sourc\0es,a"s, true, ""},
+      {L"source,a", true, ""},
+  };
+  for (const auto& test : kCases) {
+    const Parsed parsed(link_with(L"/|" + test.field + L"|/"));
+    EXPECT_EQ(parsed.valid, test.valid) << testing::PrintToString(test.field);
+    EXPECT_EQ(parsed.sources(), test.want)
+        << testing::PrintToString(test.field);
+  }
+}
+
+TEST(Ed2kLink, ReadsPortsAsTheCLibraryScansThem) {
+  std::vector<std::string> ports = {"",
+                                    "0",
+                                    "4662",
+                                    "0x1F",
+                                    "0X1f",
+                                    "010",
+                                    "08",
+                                    "abc",
+                                    " 7",
+                                    "\t7",
+                                    "-1",
+                                    "+5",
+                                    "- 1",
+                                    "0x",
+                                    "0xg",
+                                    "65535",
+                                    "65536",
+                                    "70000",
+                                    "0x-1",
+                                    "--1",
+                                    "1x",
+                                    "4294967297",
+                                    "0b1",
+                                    "9223372036854775807",
+                                    "9223372036854775808",
+                                    "18446744073709551615",
+                                    "-9223372036854775809",
+                                    "2147483648",
+                                    "-0x10",
+                                    "-010",
+                                    "00x1",
+                                    "0 1"};
+  for (const std::string& port : ports) {
+    int want = 0;
+    // NOLINTNEXTLINE(cert-err34-c): just what it is for
+    if (std::sscanf(port.c_str(), "%i", &want) != 1) want = 0;
+    for (const std::wstring host : {L"a", L"\xE4"}) {
+      const Parsed parsed(link_with(L"sources," + host + L":" +
+                                    std::wstring(port.begin(), port.end()) +
+                                    L",z:9"));
+      ASSERT_EQ(parsed.link.get_source_list().size(), 2U) << port;
+      EXPECT_EQ(parsed.link.get_source_list().front().port,
+                static_cast<std::uint16_t>(want))
+          << port;
+    }
+  }
+}
+
+TEST(Ed2kLink, FieldsComeInAnyOrder) {
+  std::vector<std::wstring> fields = {L"h=" + kRoot, L"p=" + kHash, L"s=u",
+                                      L"sources,a:1", L"/"};
+  std::sort(fields.begin(), fields.end());
+  do {
+    std::wstring url = link_with(L"");
+    for (const std::wstring& field : fields) url += field + L"|";
+    const Parsed parsed(url);
+    EXPECT_TRUE(parsed.valid);
+    EXPECT_EQ(text_of(parsed.link.get_root_hash()), kRootText);
+    EXPECT_EQ(parsed.part_hashes(), std::string(kHashText) + " ");
+    EXPECT_EQ(parsed.link.get_http_url(), L"u");
+    EXPECT_EQ(parsed.sources(), "a=1 ");
+  } while (std::next_permutation(fields.begin(), fields.end()));
+}
+
+TEST(Ed2kLink, DecodesAndCleansOnlyNamesWithEscapes) {
+  const struct {
+    std::wstring name, want;
+  } kCases[] = {
+      {L"a%20b%3F.txt", L"a b_.txt"},
+      {L"a:b.txt", L"a:b.txt"},
+      {L"<>:\"/\\?*%41", L"________A"},
+      {L"%3C%3E%3A%22%2F%5C%7C%3F%2A", L"_________"},
+      {L"%09%0A%0D;=%7E%21", L"\t\n\r;=~!"},
+      {L"%E4%B8%AD%3a.txt", L"\x4E2D_.txt"},
+      {L"%F0%9F%98%80", L"\x1F600"},
+      {L"%f4%90%80%80x", L"\x110000x"},  // the converter's own limit
+      {L"a%E4%B8x", L"a"},
+      {L"a%ED%A0%80", L"a"},
+      {L"%FFa:b", L"%FFa:b"},  // decodes to nothing
+      {L"%00a:b", L"%00a:b"},
+      {L"a%00b", L"a"},
+      {L"a:%00b", L"a_"},
+      {L"%C3%A4%00b", L"\xE4"},
+      {L"%", L"%"},
+      {L"a:%", L"a_%"},
+      {L"%4:%zz", L"%4_%zz"},
+      {L"%2541", L"%41"},
+      {L"a+b%2B", L"a+b+"},
+      {L"\x80%41:", L"\x80%41:"},
+      {L"\x7F%41:",
+       L"\x7F"
+       L"A_"},
+      {L"\x4E2D%41:", L"\x4E2D%41:"},
+      {L"\x1F600\xD800", L"\x1F600\xD800"},
+      {L"a\0:%41"s, L"a"},
+      {L"\0a%41"s, L"\0a%41"s},
+      {L"a\0b"s, L"a\0b"s},
+      {L"a%41\0\x4E2D"s, L"a%41\0\x4E2D"s},
+      {std::wstring(255, L'a') + L"%41", std::wstring(255, L'a') + L"A"},
+      {std::wstring(300, L'a') + L"%41:", std::wstring(300, L'a') + L"A_"},
+  };
+  for (const auto& test : kCases) {
+    const Parsed parsed(link_named(test.name));
+    EXPECT_TRUE(parsed.valid);
+    EXPECT_EQ(parsed.link.get_file_name(), test.want)
+        << testing::PrintToString(test.name);
+  }
+}
+
+TEST(Ed2kLink, TheRecordHoldsUpTo1023CharactersOfTheName) {
+  for (const std::size_t length : {1U, 1022U, 1023U, 1024U, 4096U, 5000U}) {
+    EXPECT_TRUE(Parsed(link_named(std::wstring(length, L'a'))).valid);
+    EXPECT_TRUE(Parsed(link_named(std::wstring(length, L'a') + L"%3A")).valid);
+    EXPECT_TRUE(Parsed(link_named(std::wstring(length, L'\x4E2D'))).valid);
+  }
+  const CAnswer answer = c_answer(link_named(std::wstring(1024, L'a')));
+  EXPECT_EQ(std::wcslen(answer.info.name), 1023U);
+}
+
+TEST(Ed2kLink, KeepsWhatItReadBeforeAFault) {
+  const struct {
+    std::wstring url;
+    std::wstring name;
+    unsigned long size;
+    std::string hash;
+  } kCases[] = {
+      {L"ed2k://|file|n|5", L"old", 9, "07"},
+      {L"ed2x://|file|n|5|" + kHash, L"old", 9, "07"},
+      {L"ed2k://|fil|n|5|" + kHash, L"old", 9, "07"},
+      {L"ed2k://|file|n%41|0|" + kHash, L"n%41", 0, "07"},
+      {L"ed2k://|file|n%41|5|x", L"n%41", 5, "07"},
+      {L"ed2k://|file|n%41|5|" + kHash + L"|h=x", L"n%41", 5, "01"},
+  };
+  for (const auto& test : kCases) {
+    ed2k_file_link link(L"old", 9, {{{7}}});
+    EXPECT_FALSE(link.create_from_ed2k_url(test.url));
+    EXPECT_EQ(link.get_file_name(), test.name);
+    EXPECT_EQ(link.get_file_size(), test.size);
+    EXPECT_EQ(text_of(link.get_file_hash()).substr(0, 2), test.hash);
+  }
+}
+
+TEST(Ed2kLink, ListsAreAddedToByASecondLink) {
+  Parsed parsed(link_with(L"p=" + kHash + L"|sources,a:1|h=" + kRoot));
+  EXPECT_TRUE(parsed.link.create_from_ed2k_url(
+      link_with(L"p=" + kHash + L"|sources,a:1")));
+  EXPECT_EQ(parsed.link.get_part_hash().size(), 2U);
+  EXPECT_EQ(parsed.sources(), "a=1 a=1 ");
+  EXPECT_EQ(text_of(parsed.link.get_root_hash()), kRootText);
+}
+
+TEST(Ed2kLink, PrintsTheFieldsThatTheFlagsName) {
+  const std::string head =
+      "ed2k://|file|a.bin|100|" + std::string(kHashText) + "|";
+  const std::string root = "h=AERUKZ4JVPG66AJDIVTYTK6N54ASGRLH|";
+  const std::string parts =
+      "p=" + std::string(kHashText) + ":" + kHashText + "|";
+  const std::string url = "s=u?|%\xC3\xA4|";
+  const std::string sources = "/|sources,1.2.3.4:4662,h:65535|";
+  Parsed full(link_with(L"h=" + kRoot + L"|p=" + kHash + L":" + kHash +
+                        L"|sources,1.2.3.4:4662,h:65535|"));
+  full.link.set_http_url(L"u?|%\xE4");
+  const ed2k_file_link fresh = fresh_link();
+  for (unsigned long flags = 0; flags < 32; ++flags) {
+    const auto pick = [flags](unsigned long flag, const std::string& field) {
+      return (flags & flag) != 0 ? field : ""s;
+    };
+    const std::string want = head + pick(1, root) + pick(2, parts) +
+                             pick(4, url) + pick(8, sources) + "/";
+    const std::string want_fresh =
+        "ed2k://|file|nil|0|" + std::string(32, '0') + "|" +
+        pick(1, "h=" + std::string(32, 'A') + "|") + pick(2, "p=|") +
+        pick(4, "s=|") + pick(8, "/|sources|") + "/";
+    std::string narrow = "old";
+    std::wstring wide = L"old";
+    EXPECT_TRUE(full.link.get_ed2k_url(narrow, flags));
+    EXPECT_TRUE(full.link.get_ed2k_url(wide, flags));
+    EXPECT_EQ(narrow, want);
+    EXPECT_EQ(wide, string_2_wstring(want));
+    fresh.get_ed2k_url(narrow, flags);
+    fresh.get_ed2k_url(wide, flags);
+    EXPECT_EQ(narrow, want_fresh);
+    EXPECT_EQ(wide, string_2_wstring(want_fresh));
+  }
+}
+
+TEST(Ed2kLink, PrintsSizesWholeAndNamesRaw) {
+  ed2k_file_link link(L"|%\x4E2D\x1F600\0x"s, ~0UL, {});
+  link.add_source("\xE4\xB8\xAD", 0);
+  std::string narrow;
+  std::wstring wide;
+  link.get_ed2k_url(narrow, 8);
+  link.get_ed2k_url(wide, 8);
+  const std::string hash(32, '0');
+  EXPECT_EQ(narrow,
+            "ed2k://|file||%\xE4\xB8\xAD\xF0\x9F\x98\x80|"
+            "18446744073709551615|" +
+                hash + "|/|sources,\xE4\xB8\xAD:0|/");
+  EXPECT_EQ(wide, L"ed2k://|file||%\x4E2D\x1F600\0x|18446744073709551615|"s +
+                      string_2_wstring(hash) + L"|/|sources,\x4E2D:0|/");
+}
+
+TEST(Ed2kLink, PrintedLinksReadBack) {
+  std::mt19937 random = seeded(7);
+  const auto fill = [&random](auto& hash) {
+    for (unsigned char& octet : hash.octets) {
+      octet = static_cast<unsigned char>(random() & 255);
+    }
+  };
+  const std::wstring units = L"ab.:?*/ \xE4\x4E2D\x1F600~";
+  for (unsigned i = 0; i < 10'000; ++i) {
+    ed2k_file_link link = fresh_link();
+    std::wstring name(1 + random() % 20, L'n');
+    for (wchar_t& unit : name) unit = units[random() % units.size()];
+    link.set_file_name(name);
+    link.set_file_size(1 + random() % 0xFFFFFFFF);
+    uintx<128, 16> hash;
+    uintx<160, 20> root;
+    fill(hash);
+    link.set_file_hash(hash);
+    fill(root);
+    link.set_root_hash(root);
+    std::list<uintx<128, 16>> parts(1 + random() % 3);
+    for (auto& part : parts) fill(part);
+    link.set_part_hash(parts);
+    link.set_http_url(L"http://" + name);
+    const unsigned long flags = i % 8;
+    std::wstring url;
+    std::string utf8;
+    link.get_ed2k_url(url, flags);
+    link.get_ed2k_url(utf8, flags);
+    ASSERT_EQ(string_2_wstring(utf8), url);
+    const Parsed parsed(url);
+    ASSERT_TRUE(parsed.valid) << utf8;
+    ASSERT_EQ(parsed.link.get_file_name(), name);
+    ASSERT_EQ(parsed.link.get_file_size(), link.get_file_size());
+    ASSERT_EQ(parsed.link.get_file_hash(), hash);
+    ASSERT_EQ(parsed.link.get_root_hash(),
+              (flags & 1) != 0 ? root : (uintx<160, 20>{}));
+    ASSERT_EQ(parsed.link.get_part_hash(),
+              (flags & 2) != 0 ? parts : decltype(parts)());
+    ASSERT_EQ(parsed.link.get_http_url(),
+              (flags & 4) != 0 ? link.get_http_url() : L"");
+  }
+}
+
+TEST(Ed2kLink, Utf8IsEscapedByteByByte) {
+  EXPECT_EQ(utf8_2_hexstr("\xC3\xA4"), "%C3%A4");
+  EXPECT_EQ(utf8_2_hexstr("a b%|\0"s), "a b%|\0"s);
+  for (unsigned code = 0; code < 256; ++code) {
+    const std::string byte(1, static_cast<char>(code));
+    EXPECT_EQ(char2hex(static_cast<unsigned char>(code)),
+              encode_base16(byte.data(), 1));
+    EXPECT_EQ(utf8_2_hexstr(byte),
+              code < 0x80 ? byte : "%" + encode_base16(byte.data(), 1));
+  }
+}
+
+TEST(Ed2kLink, TheCFunctionAnswersCodes) {
+  ed2k_url_info_u info;
+  std::memset(&info, '#', sizeof info);
+  EXPECT_EQ(parse_ed2k_url_u(nullptr, 5, &info), -11);
+  EXPECT_EQ(parse_ed2k_url_u(kLink.data(), kLink.size(), nullptr), -11);
+  EXPECT_EQ(parse_ed2k_url_u(nullptr, 5, nullptr), -11);
+  EXPECT_EQ(parse_ed2k_url_u(kLink.data(), std::size_t{1} << 32, &info), -1);
+  EXPECT_EQ(parse_ed2k_url_u(kLink.data(), ~std::size_t{0}, &info), -1);
+  EXPECT_EQ(parse_ed2k_url_u(kLink.data(), 0, &info), -1);
+  EXPECT_TRUE(is_untouched(info));
+}
+
+TEST(Ed2kLink, TheCFunctionAllocatesOnlyToDecode) {
+  const std::wstring fields = L"h=" + kRoot + L"|p=" + kHash + L":" + kHash +
+                              L"00112233445566778899|s=http://h/x|/|sources,"
+                              L"a.long.host.name.example.org:4662,b:0x10|/";
+  const std::wstring odd_hash = kHash + L"\0x"s;
+  std::wstring escaped = link_with(fields);
+  ed2k_file_link::string_replace(escaped, L"|", L"%7C");
+  for (const std::wstring& url :
+       {kLink, link_with(fields), escaped, link_named(std::wstring(2000, L'n')),
+        link_named(L"\x4E2D%41"), link_sized(L" +7x"), link_hashed(odd_hash),
+        link_named(L"a%20b")}) {
+    ed2k_url_info_u info;
+    long code = -1;
+    EXPECT_EQ(allocations_of([&] {
+                code = parse_ed2k_url_u(url.data(), url.size(), &info);
+              }),
+              0U);
+    EXPECT_EQ(code, 0) << testing::PrintToString(url);
+  }
+}
+
+TEST(Ed2kLink, TheCFunctionFailsWhenMemoryRunsOut) {
+  const std::wstring url = L"ed2k://|file|" + std::wstring(2000, L'n') +
+                           L"%E4%B8%AD|100|" + kHash + L"|sources,\x4E2D:1|";
+  ed2k_url_info_u info;
+  std::memset(&info, '#', sizeof info);
+  EXPECT_GT(fail_each_allocation(
+                [&] { return parse_ed2k_url_u(url.data(), url.size(), &info); },
+                [&](long code) {
+                  EXPECT_EQ(code, -1);
+                  EXPECT_TRUE(is_untouched(info));
+                }),
+            2U);
+  EXPECT_FALSE(is_untouched(info));
+}
+
+TEST(Ed2kLink, ReadsManyFieldsInOnePass) {
+  constexpr std::size_t kMany = 100'000;
+  const auto repeated = [](const std::wstring& text) {
+    std::wstring all;
+    for (std::size_t i = 0; i < kMany; ++i) all += text;
+    return all;
+  };
+  const Parsed sources(link_with(L"sources" + repeated(L",a:1")));
+  EXPECT_EQ(sources.link.get_source_list().size(), kMany);
+  const Parsed parts(link_with(L"p=" + kHash + repeated(L":" + kHash)));
+  EXPECT_EQ(parts.link.get_part_hash().size(), kMany + 1);
+  const Parsed fields(link_with(repeated(L"p=" + kHash + L"|")));
+  EXPECT_EQ(fields.link.get_part_hash().size(), kMany);
+  std::wstring escaped = link_with(repeated(L"||s=u"));
+  ed2k_file_link::string_replace(escaped, L"|", L"%7C");
+  EXPECT_TRUE(Parsed(escaped).valid);
+  EXPECT_TRUE(Parsed(link_named(repeated(L"%%"))).valid);
+  EXPECT_TRUE(Parsed(link_with(repeated(L"="))).valid);
+}
+
+}  // namespace
