@@ -12,14 +12,17 @@ namespace qk::url {
 
 constexpr std::string_view kBase32Alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ234567";
 
-constexpr DigitValues make_base16_values() {
+constexpr DigitValues make_hex_values() {
   DigitValues values = make_digit_values("0123456789");
   set_values(values, "ABCDEF", 10);
   set_values(values, "abcdef", 10);
-  // Kept: callers rely on the characters between "9" and "A" counting as 9.
-  for (char unit = '9' + 1; unit < 'A'; ++unit) {
-    values[static_cast<unsigned char>(unit)] = 9;
-  }
+  return values;
+}
+
+// Kept: callers rely on the characters between "9" and "A" counting as 9.
+constexpr DigitValues make_base16_values() {
+  DigitValues values = make_hex_values();
+  for (unsigned char unit = '9' + 1; unit < 'A'; ++unit) values[unit] = 9;
   return values;
 }
 
@@ -29,6 +32,7 @@ constexpr DigitValues make_base32_values() {
   return values;
 }
 
+inline constexpr DigitValues kHexValues = make_hex_values();
 inline constexpr DigitValues kBase16Values = make_base16_values();
 inline constexpr DigitValues kBase32Values = make_base32_values();
 inline constexpr DigitValues kUpperBase32Values =

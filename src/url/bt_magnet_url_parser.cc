@@ -1,0 +1,167 @@
+// One reader for the class, which keeps every field, and for the C function,
+// which drops all but the info hash undecoded.
+#include "url/bt_magnet_url_parser.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+#include "url/base_decoding.h"
+#include "url/entry_point.h"
+#include "url/korvane_links.h"
+#include "url/narrow_text.h"
+#include "url/percent_coding.h"
+
+namespace {
+
+using namespace qk::url;
+
+constexpr std::wstring_view kPrefix = L"magnet:?";
+constexpr std::wstring_view kHashPrefix = L"urn:btih:";
+constexpr std::size_t kHashSize = MAGNET_HASH_SIZE;
+constexpr std::size_t kBase16Digits = 2 * kHashSize;
+constexpr std::size_t kBase32Groups = kHashSize / kBase32GroupBytes;
+constexpr std::size_t kBase32Digits = kBase32Groups * kBase32GroupDigits;
+
+bool begins_with(std::wstring_view text, std::wstring_view prefix) {
+  return text.substr(0, prefix.size()) == prefix;
+}
+
+// Moves `rest` past its next part; false when nothing is left, so that a
+// separator at the end is not followed by an empty part.
+bool next_part(std::wstring_view& rest, wchar_t separator,
+               std::wstring_view& part) {
+  if (rest.empty()) return false;
+  const std::size_t end = std::min(rest.find(separator), rest.size());
+  part = rest.substr(0, end);
+  rest.remove_prefix(std::min(end + 1, rest.size()));
+  return true;
+}
+
+// "xt" stands for "xt" and for "xt.1", "xt.2", ...
+bool is_key(std::wstring_view key, std::wstring_view name) {
+  return begins_with(key, name) &&
+         (key.size() == name.size() || key[name.size()] == L'.');
+}
+
+// Decodes the digits up to the first bad one; false for a wrong number of them.
+template <typename Unit, typename Link>
+bool decode_info_hash(std::basic_string_view<Unit> digits, Link& link) {
+  if (digits.size() == kBase32Digits) {
+    decode_base32_groups(kUpperBase32Values, digits.data(), kBase32Groups,
+                         link.info_hash());
+    return true;
+  }
+  if (digits.size() != kBase16Digits) return false;
+  auto* hash = link.info_hash();
+  std::fill_n(hash, kHashSize, '\0');
+  decode_base16_pairs(kHexValues, digits.data(), kHashSize, hash);
+  return true;
+}
+
+template <typename Link>
+bool read_exact_topic(std::wstring_view value, Link& link) {
+  if (!begins_with(value, kHashPrefix)) return false;
+  link.put_has_info_hash();
+  return read_narrow(value.substr(kHashPrefix.size()), [&link](auto digits) {
+    return decode_info_hash(digits, link);
+  });
+}
+
+// Hands every field to `link` as soon as it is read; false for no link.
+template <typename Link>
+bool read_link(std::wstring_view url, Link& link) {
+  if (!begins_with(url, kPrefix)) return false;
+  std::wstring_view rest = url.substr(kPrefix.size());
+  std::wstring_view item;
+  while (next_part(rest, L'&', item)) {
+    const std::size_t sign = item.find(L'=');
+    const std::wstring_view key = item.substr(0, sign);
+    const std::wstring_view value =
+        sign == std::wstring_view::npos ? item : item.substr(sign + 1);
+    if (is_key(key, L"xt")) {
+      if (!read_exact_topic(value, link)) return false;
+    } else if (is_key(key, L"tr")) {
+      link.add_tracker(value);
+    } else if (is_key(key, L"dn")) {
+      link.put_display_name(value);
+    }
+  }
+  return link.has_info_hash();
+}
+
+// What the C function returns: other fields are not even decoded.
+struct InfoHash {
+  bool has_info_hash() const { return found; }
+  void put_has_info_hash() { found = true; }
+  unsigned char* info_hash() { return octets.data(); }
+  void add_tracker(std::wstring_view /*value*/) {}
+  void put_display_name(std::wstring_view /*value*/) {}
+
+  std::array<unsigned char, kHashSize> octets{};
+  bool found = false;
+};
+
+template <Kept kKept>
+void decode_in_place(std::wstring& text) {
+  const wchar_t* end =
+      percent_decode<kKept>(std::wstring_view(text), text.data());
+  text.resize(static_cast<std::size_t>(end - text.data()));
+}
+
+}  // namespace
+
+struct bt_magnet_url_parser::all_fields {
+  bool has_info_hash() const { return link.has_info_hash_; }
+  void put_has_info_hash() { link.has_info_hash_ = true; }
+  char* info_hash() {
+    link.info_hash_.resize(kHashSize);
+    return link.info_hash_.data();
+  }
+  // Decoded twice (kept: callers rely on it), the second time but for the
+  // escapes that keep the parts of the tracker's address apart.
+  void add_tracker(std::wstring_view value) {
+    std::wstring& tracker = link.trackers_.emplace_back(value);
+    decode_in_place<Kept::kNothing>(tracker);
+    decode_in_place<Kept::kSeparating>(tracker);
+  }
+  void put_display_name(std::wstring_view value) {
+    link.display_name_ = value;
+    decode_in_place<Kept::kNothing>(link.display_name_);
+  }
+
+  bt_magnet_url_parser& link;
+};
+
+bt_magnet_url_parser::bt_magnet_url_parser(std::wstring url)
+    : url_(std::move(url)) {}
+
+bool bt_magnet_url_parser::parse_magnet_url() {
+  all_fields fields{*this};
+  return read_link(url_, fields);
+}
+
+void bt_magnet_url_parser::divide_string(const std::wstring& text,
+                                         wchar_t separator,
+                                         std::vector<std::wstring>& out) {
+  std::wstring_view rest = text;
+  std::wstring_view part;
+  std::vector<std::wstring> parts;
+  while (next_part(rest, separator, part)) parts.emplace_back(part);
+  out = std::move(parts);
+}
+
+long parse_magnet_url_u(const wchar_t* url, size_t length,
+                        unsigned char* info_hash) {
+  if (url == nullptr || length > kLongestText) return URL_E_UNSUPPORTED;
+  return answer(URL_E_UNSUPPORTED, [&]() -> long {
+    InfoHash hash;
+    if (!read_link(std::wstring_view(url, length), hash)) {
+      return URL_E_UNSUPPORTED;
+    }
+    std::copy(hash.octets.begin(), hash.octets.end(), info_hash);
+    return 0;
+  });
+}
