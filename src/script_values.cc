@@ -95,3 +95,13 @@ void store(v8::Isolate* isolate, v8::Local<v8::Object> object, const char* key,
             v8::Number::New(isolate, value))
       .FromMaybe(false);
 }
+
+void answer_object(const Arguments& arguments,
+                   std::initializer_list<NumberProperty> properties) {
+  v8::Isolate* isolate = arguments.GetIsolate();
+  const v8::Local<v8::Object> object = v8::Object::New(isolate);
+  for (const NumberProperty& property : properties) {
+    store(isolate, object, property.key, property.value);
+  }
+  answer(arguments, object);
+}

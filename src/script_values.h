@@ -14,6 +14,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 
 #include "runtime_port.h"
 
@@ -96,6 +97,11 @@ double read_number(const Arguments& arguments, int index);
 std::int32_t read_int32(const Arguments& arguments, int index);
 std::uint32_t read_uint32(const Arguments& arguments, int index);
 
+// Whether an argument is the boolean true; nothing is coerced.
+inline bool is_true(const Arguments& arguments, int index) {
+  return arguments[index]->IsTrue();
+}
+
 // --- Making values
 
 // `utf8` up to its first zero byte; undefined when the text cannot be made.
@@ -132,5 +138,14 @@ inline void answer(const Arguments& arguments, v8::Local<v8::Value> value) {
 inline void answer_text(const Arguments& arguments, const char* utf8) {
   answer(arguments, make_text(arguments.GetIsolate(), utf8));
 }
+
+struct NumberProperty {
+  const char* key;
+  std::int32_t value;
+};
+
+// Answers a new object with these properties, in this order.
+void answer_object(const Arguments& arguments,
+                   std::initializer_list<NumberProperty> properties);
 
 #endif  // KORVANE_SCRIPT_VALUES_H_
