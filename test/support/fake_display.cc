@@ -47,6 +47,7 @@ const std::map<int, const char*> kNames = {
     {X_GetInputFocus, "GetInputFocus"},
     {X_QueryKeymap, "QueryKeymap"},
     {X_GetKeyboardMapping, "GetKeyboardMapping"},
+    {X_GetModifierMapping, "GetModifierMapping"},
 };
 
 // Little-endian bytes, as both our platforms write them.
