@@ -4,12 +4,12 @@
 #include <X11/Xutil.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
+#include <iostream>
 
 DisplayClient::DisplayClient() : display_(XOpenDisplay(nullptr)) {
   if (display_ != nullptr) return;
-  std::fprintf(stderr, "no display %s\n", XDisplayName(nullptr));
+  std::cerr << "no display " << XDisplayName(nullptr) << "\n";
   std::exit(2);
 }
 
@@ -24,7 +24,7 @@ bool DisplayClient::has_manager() const {
 }
 
 Window DisplayClient::create(const Rectangle& place, int border, Window parent,
-                             bool managed) {
+                             bool managed) const {
   XSetWindowAttributes attributes{};
   attributes.override_redirect = managed ? False : True;
   attributes.event_mask = StructureNotifyMask | PropertyChangeMask;
@@ -38,12 +38,12 @@ Window DisplayClient::create(const Rectangle& place, int border, Window parent,
   return window;
 }
 
-void DisplayClient::show(Window window) {
+void DisplayClient::show(Window window) const {
   XMapWindow(display(), window);
   wait_until([&] { return is_shown(window); });
 }
 
-void DisplayClient::destroy(Window window) {
+void DisplayClient::destroy(Window window) const {
   XDestroyWindow(display(), window);
   XSync(display(), False);
 }
@@ -55,11 +55,12 @@ DisplayClient::Rectangle DisplayClient::rectangle(Window window) const {
 }
 
 DisplayClient::Rectangle DisplayClient::rectangle_on_root(Window window) const {
-  Rectangle place = rectangle(window);
+  const Rectangle place = rectangle(window);
+  int x = 0;
+  int y = 0;
   Window child = None;
-  XTranslateCoordinates(display(), window, root(), 0, 0, &place[0], &place[1],
-                        &child);
-  return place;
+  XTranslateCoordinates(display(), window, root(), 0, 0, &x, &y, &child);
+  return {x, y, place[2], place[3]};
 }
 
 bool DisplayClient::is_shown(Window window) const {
@@ -96,7 +97,7 @@ std::vector<Window> DisplayClient::stacking(
   return order;
 }
 
-void DisplayClient::wait_until(const std::function<bool()>& holds) {
+void DisplayClient::wait_until(const std::function<bool()>& holds) const {
   while (!holds()) {
     XEvent event{};
     XNextEvent(display(), &event);

@@ -25,10 +25,10 @@ class DisplayClient {
   // Makes a window with one property, not shown. One that is `managed` is left
   // to the window manager, the others are not.
   Window create(const Rectangle& place, int border = 0, Window parent = None,
-                bool managed = false);
+                bool managed = false) const;
   // Shows a window and waits until it is shown.
-  void show(Window window);
-  void destroy(Window window);
+  void show(Window window) const;
+  void destroy(Window window) const;
 
   Rectangle rectangle(Window window) const;
   // The window's inside, in root coordinates.
@@ -39,7 +39,7 @@ class DisplayClient {
   std::vector<Window> stacking(const std::vector<Window>& windows) const;
 
   // Waits for events of this client's windows until `holds`.
-  void wait_until(const std::function<bool()>& holds);
+  void wait_until(const std::function<bool()>& holds) const;
 
  private:
   Window child_of_root(Window window) const;

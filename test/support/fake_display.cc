@@ -11,19 +11,22 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <sstream>
+#include <utility>
 #include <vector>
 
 namespace {
 
-const std::map<std::string, int> kTold = {
+// What is told unless a test sets it; of all windows alike.
+constexpr std::pair<const char*, int> kTold[] = {
     {"width", 1280},
-    {"height", 1024},              // the screen, pixels
-    {"width_mm", 339},             // and millimetres
-    {"root", FakeDisplay::kRoot},  // of any window
+    {"height", 1024},
+    {"width_mm", 339},  // the screen
+    {"root", FakeDisplay::kRoot},
     {"x", 0},
-    {"y", 0},  // in its parent
+    {"y", 0},
     {"w", 1},
-    {"h", 1},  // of any window
+    {"h", 1},
     {"translated_x", 0},
     {"translated_y", 0},
     {"same_screen", 1},
@@ -33,7 +36,7 @@ const std::map<std::string, int> kTold = {
     {"pointer_y", 0},
 };
 
-const std::map<int, const char*> kNames = {
+constexpr std::pair<int, const char*> kNames[] = {
     {X_GetWindowAttributes, "GetWindowAttributes"},
     {X_MapWindow, "MapWindow"},
     {X_UnmapWindow, "UnmapWindow"},
@@ -49,6 +52,13 @@ const std::map<int, const char*> kNames = {
     {X_GetKeyboardMapping, "GetKeyboardMapping"},
     {X_GetModifierMapping, "GetModifierMapping"},
 };
+
+std::string name_of(int code) {
+  for (const auto& [known, name] : kNames) {
+    if (known == code) return name;
+  }
+  return "request";
+}
 
 // Little-endian bytes, as both our platforms write them.
 class Bytes {
@@ -89,15 +99,15 @@ int code_of(const std::string& request) {
 }
 
 std::string hexadecimal(std::uint32_t value) {
-  std::array<char, 16> text{};
-  std::snprintf(text.data(), text.size(), " %x", value);
-  return text.data();
+  std::ostringstream text;
+  text << ' ' << std::hex << value;
+  return text.str();
 }
 
 // A request as text: its name, the name of an atom, or its words.
 std::string describe(const std::string& request) {
   const int code = code_of(request);
-  std::string text = kNames.count(code) != 0 ? kNames.at(code) : "other";
+  std::string text = name_of(code);
   const bool flag = request[1] != 0;
   if (code == X_InternAtom) {
     return text + (flag ? " existing " : " ") +
@@ -134,9 +144,20 @@ int bind_free_display() {
   std::abort();
 }
 
+// Reads what there is; false at the end of the connection.
+bool take(int socket, std::string& unread) {
+  std::array<char, 4096> bytes{};
+  const ssize_t count = read(socket, bytes.data(), bytes.size());
+  if (count <= 0) return false;
+  unread.append(bytes.data(), static_cast<std::size_t>(count));
+  return true;
+}
+
 }  // namespace
 
-FakeDisplay::FakeDisplay() : values_(kTold), listener_(bind_free_display()) {
+FakeDisplay::FakeDisplay()
+    : values_(std::begin(kTold), std::end(kTold)),
+      listener_(bind_free_display()) {
   if (pipe2(wake_pipe_.data(), O_CLOEXEC) != 0) std::abort();
   thread_ = std::thread([this] { serve(); });
 }
@@ -202,7 +223,8 @@ void FakeDisplay::serve() {
     for (std::size_t i = 2; i < watched.size(); ++i) {
       const int socket = watched[i].fd;
       Connection& connection = connections_[socket];
-      const bool open = watched[i].revents == 0 || take(socket, connection);
+      const bool open =
+          watched[i].revents == 0 || take(socket, connection.unread);
       if (open && process(socket, connection)) continue;
       ended_.push_back(connection.requests);
       connections_.erase(socket);
@@ -210,15 +232,6 @@ void FakeDisplay::serve() {
       changed_.notify_all();
     }
   }
-}
-
-// Reads what there is; false at the end of the connection.
-bool FakeDisplay::take(int socket, Connection& connection) {
-  std::array<char, 4096> bytes{};
-  const ssize_t count = read(socket, bytes.data(), bytes.size());
-  if (count <= 0) return false;
-  connection.unread.append(bytes.data(), static_cast<std::size_t>(count));
-  return true;
 }
 
 // Answers the whole requests read so far; false to end the connection.
@@ -255,7 +268,9 @@ bool FakeDisplay::process(int socket, Connection& connection) {
 
 std::string FakeDisplay::setup() {
   Bytes screen;
-  screen.add32(kRoot).add32(0x20).zeros(12);  // root, colour map
+  screen.add32(static_cast<std::uint32_t>(kRoot))
+      .add32(0x20)
+      .zeros(12);  // root, colour map
   screen.add16(value("width")).add16(value("height"));
   screen.add16(value("width_mm")).add16(271).add16(1).add16(1);
   screen.add32(0x21).zeros(2).add8(24).add8(1);             // visual, depths
@@ -306,7 +321,10 @@ std::string FakeDisplay::answer(Connection& connection,
     case X_QueryPointer:
       data = 1;
       // On the root window, and in the window asked about.
-      body.add32(kRoot).add32(0).add16(-1).add16(-1);
+      body.add32(static_cast<std::uint32_t>(kRoot))
+          .add32(0)
+          .add16(-1)
+          .add16(-1);
       body.add16(value("pointer_x")).add16(value("pointer_y"));
       break;
     case X_TranslateCoords:
@@ -321,7 +339,7 @@ std::string FakeDisplay::answer(Connection& connection,
       break;
     case X_GetKeyboardMapping:
       data = 1;
-      body.zeros(24 + std::size_t{static_cast<unsigned char>(request[5])} * 4);
+      body.zeros(24 + 4 * std::size_t(static_cast<unsigned char>(request[5])));
       break;
     case X_GetModifierMapping:
       data = 1;

@@ -15,7 +15,7 @@
 
 class FakeDisplay {
  public:
-  static constexpr std::uint32_t kRoot = 0x100;
+  static constexpr int kRoot = 0x100;
 
   // Listens on a free display number and puts it into DISPLAY.
   FakeDisplay();
@@ -41,11 +41,10 @@ class FakeDisplay {
     std::string requests;
     std::uint16_t sequence = 0;
     bool set_up = false;
-    bool closing = false;
+    bool closing = false;  // what follows is the library's own
   };
 
   void serve();
-  bool take(int socket, Connection& connection);
   bool process(int socket, Connection& connection);
   std::string answer(Connection& connection, const std::string& request);
   std::string setup();

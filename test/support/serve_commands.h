@@ -43,7 +43,7 @@ int serve_commands(char** command, Answer answer) {
     if (write(told[1], reply.data(), reply.size()) < 0) break;
   }
   std::free(line);
-  std::fclose(lines);
+  static_cast<void>(std::fclose(lines));
   int status = 0;
   waitpid(child, &status, 0);
   return WIFEXITED(status) ? WEXITSTATUS(status) : 1;
