@@ -112,9 +112,12 @@ test('flags, commands and keys are cut to 32 bits too', () => {
     [-1, 'MapWindow 7'], [2 ** 32 - 1, 'MapWindow 7'],
     [2 ** 32 + 0x83, 'UnmapWindow 7'], [2.9, 'ConfigureWindow 7 c 3 4'],
     [2 ** 31 + 1, 'ConfigureWindow 7 3 1 2'],
+    [0xc0, `${place}; MapWindow 7`],
   ];
   for (const [number, want] of flags) {
     check('setWindowPos', [7, 0, 1, 2, 3, 4, number], false, [want]);
+    check('setWindowPos', [7, 6, 1, 2, 3, 4, number], false,
+      [`${want}; ConfigureWindow 6 60 7 1`]);
   }
   const commands = [
     [5.9, 'MapWindow 7'], [2 ** 32 + 5, 'MapWindow 7'],
@@ -123,6 +126,10 @@ test('flags, commands and keys are cut to 32 bits too', () => {
   for (const [number, want] of commands) {
     check('showWindow', [7, number], false, [want]);
   }
+  const atoms = ['', '_MAXIMIZED_HORZ', '_MAXIMIZED_VERT'].map(
+    (end) => `InternAtom _NET_WM_STATE${end}`).join('; ');
+  check('showWindow', [7, 3.9], false,
+    [`${atoms}; SendEvent 100 80000 2021 7 200 1 201 202 0 0`]);
   const keys = [
     [0, keymap], [0.9, keymap], [1, pointer], [4.9, pointer], [5, keymap],
     [65, keymap], [2 ** 31, keymap], [-1, keymap], [2 ** 32 + 1, pointer],

@@ -1,0 +1,387 @@
+// XWindow on a real server, bare and under a window manager. A client of the
+// tests' own makes the windows and reads what became of them.
+#include "x_window.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+
+#include "display_client.h"
+
+namespace {
+
+using Rectangle = DisplayClient::Rectangle;
+using Windows = std::vector<Window>;
+
+const Rectangle kPlace = {10, 20, 100, 80};
+
+class XWindowDisplayTest : public testing::Test {
+ protected:
+  Rectangle screen() const { return client_.rectangle(client_.root()); }
+
+  // A window that the manager has put into its frame.
+  Window show_managed(const Rectangle& place) const {
+    const Window window = client_.create(place, 0, None, true);
+    client_.show(window);
+    return window;
+  }
+
+  DisplayClient client_;
+};
+
+TEST_F(XWindowDisplayTest, SetWindowPosObeysEveryCombinationOfFlags) {
+  for (unsigned row = 0; row < 128; ++row) {
+    const unsigned bits = (row & 3) | ((row & 12) << 4);
+    const bool restack = (row & 16) != 0;
+    const unsigned flags = bits | ((row & 32) != 0 ? ~0xc3U : 0);
+    const bool shown = (row & 64) != 0;
+    const Window target = client_.create(kPlace);
+    const Window other = client_.create(kPlace);
+    if (shown) client_.show(target);
+    const int status = XWindow::SetWindowPos(target, restack ? other : 0, -30,
+                                             40, 150, 160, flags);
+    const Rectangle wants[] = {
+        {-30, 40, 150, 160}, {-30, 40, 100, 80}, {10, 20, 150, 160}, kPlace};
+    const bool want_shown[] = {shown, true, false, true};
+    SCOPED_TRACE("flags " + std::to_string(flags) +
+                 (restack ? " restacked" : "") + (shown ? " shown" : ""));
+    EXPECT_EQ(status, (bits & 3) == 3 ? 0 : 1);
+    EXPECT_EQ(client_.rectangle(target), wants[bits & 3]);
+    EXPECT_EQ(client_.is_shown(target), want_shown[bits >> 6]);
+    EXPECT_EQ(client_.stacking({target, other}),
+              restack ? (Windows{other, target}) : (Windows{target, other}));
+    client_.destroy(target);
+    client_.destroy(other);
+  }
+}
+
+TEST_F(XWindowDisplayTest, ShowWindowKnowsThreeCommands) {
+  for (const int command : {INT_MIN, -1, 0, 1, 2, 3, 4, 5, 6, 9, INT_MAX}) {
+    for (const bool shown : {false, true}) {
+      const Window window = client_.create(kPlace);
+      if (shown) client_.show(window);
+      const bool got = XWindow::ShowWindow(window, command);
+      const bool want_shown = command == 5 || (shown && command != 0);
+      EXPECT_EQ(got, command == 0 || command == 5) << command;
+      EXPECT_EQ(client_.is_shown(window), want_shown) << command;
+      client_.destroy(window);
+    }
+  }
+}
+
+TEST_F(XWindowDisplayTest, AsksTheRootWindowToMaximise) {
+  Display* display = client_.display();
+  XSelectInput(display, client_.root(), SubstructureNotifyMask);
+  const Window window = client_.create(kPlace);
+  EXPECT_FALSE(XWindow::ShowWindow(window, 3));
+  XEvent event{};
+  client_.wait_until([&] {
+    return XCheckTypedEvent(display, ClientMessage, &event) != False;
+  });
+  const XClientMessageEvent& message = event.xclient;
+  const auto atom = [&](const char* name) {
+    return XInternAtom(display, name, True);
+  };
+  EXPECT_TRUE(message.send_event);
+  EXPECT_EQ(message.window, window);
+  EXPECT_EQ(message.message_type, atom("_NET_WM_STATE"));
+  EXPECT_EQ(message.format, 32);
+  const unsigned long wants[] = {1, atom("_NET_WM_STATE_MAXIMIZED_HORZ"),
+                                 atom("_NET_WM_STATE_MAXIMIZED_VERT"), 0, 0};
+  for (std::size_t i = 0; i < std::size(wants); ++i) {
+    EXPECT_EQ(static_cast<unsigned long>(message.data.l[i]), wants[i]) << i;
+  }
+  EXPECT_EQ(client_.rectangle(window), kPlace);
+}
+
+// A window for each place, each in the one before; the innermost.
+struct Nest {
+  Rectangle place;
+  int border;
+};
+
+Window create_nested(const DisplayClient& client,
+                     const std::vector<Nest>& nests) {
+  Window window = None;
+  for (const Nest& nest : nests) {
+    window = client.create(nest.place, nest.border, window);
+    client.show(window);
+  }
+  return window;
+}
+
+TEST_F(XWindowDisplayTest, GetWindowRectCountsThePositionTwice) {
+  struct {
+    std::vector<Nest> nests;
+    Rectangle want;
+  } const cases[] = {
+      {{{{0, 0, 50, 60}, 0}}, {0, 0, 50, 60}},
+      {{{{10, 20, 50, 60}, 0}}, {20, 40, 50, 60}},
+      {{{{10, 20, 50, 60}, 5}}, {25, 45, 50, 60}},
+      {{{{-10, -20, 50, 60}, 5}}, {-15, -35, 50, 60}},
+      {{{{100, 200, 90, 90}, 5}, {{7, 9, 30, 20}, 3}}, {122, 226, 30, 20}},
+      {{{{100, 200, 90, 90}, 0}, {{-7, -9, 30, 20}, 1}}, {87, 183, 30, 20}},
+      {{{{100, 200, 90, 90}, 1}, {{20, 30, 60, 50}, 2}, {{3, 4, 5, 6}, 7}},
+       {136, 248, 5, 6}},
+  };
+  for (const auto& row : cases) {
+    const Window window = create_nested(client_, row.nests);
+    Rectangle got{};
+    EXPECT_TRUE(XWindow::GetWindowRect(window, got[0], got[1], got[2], got[3]));
+    EXPECT_EQ(got, row.want);
+  }
+}
+
+TEST_F(XWindowDisplayTest, IsInFullScreenLooksAtTheWindowInFocus) {
+  const int w = screen()[2];
+  const int h = screen()[3];
+  struct {
+    std::vector<Nest> nests;
+    bool want;
+  } const cases[] = {
+      {{{{0, 0, w, h}, 0}}, true},
+      {{{{0, 0, w + 1, h + 1}, 0}}, true},
+      {{{{-5, -5, w, h}, 0}}, true},
+      {{{{0, 0, w - 1, h}, 0}}, false},
+      {{{{0, 0, w, h - 1}, 0}}, false},
+      {{{{0, 0, w, h}, 1}}, false},  // inside at 1, 1
+      {{{{1, 0, w, h}, 0}}, false},
+      {{{{0, 1, w, h}, 0}}, false},
+      {{{{-1, 0, w, h}, 1}}, false},  // counted twice: -1, 1
+      {{{{0, -1, w, h}, 1}}, false},
+      {{{{-10, -10, w, h}, 0}, {{5, 5, w, h}, 0}}, true},  // at 0, 0
+      {{{{-9, -10, w, h}, 0}, {{5, 5, w, h}, 0}}, false},  // at 1, 0
+      {{{{100, 100, 200, 200}, 0}}, false},
+  };
+  Display* display = client_.display();
+  for (const Window none : {Window{None}, Window{PointerRoot}}) {
+    XSetInputFocus(display, none, RevertToNone, CurrentTime);
+    XSync(display, False);
+    EXPECT_FALSE(XWindow::IsInFullScreen()) << none;
+  }
+  // A window manager that has just lost the window in focus may step in.
+  const auto ask_in_focus = [&](Window window) {
+    for (;;) {
+      XSetInputFocus(display, window, RevertToNone, CurrentTime);
+      XSync(display, False);
+      const bool answer = XWindow::IsInFullScreen();
+      Window focus = None;
+      int revert_to = 0;
+      XGetInputFocus(display, &focus, &revert_to);
+      if (focus == window) return answer;
+    }
+  };
+  for (const auto& row : cases) {
+    const Window window = create_nested(client_, row.nests);
+    const Rectangle& place = row.nests.back().place;
+    EXPECT_EQ(ask_in_focus(window), row.want)
+        << testing::PrintToString(place) << " in " << row.nests.size();
+    client_.destroy(window);
+  }
+}
+
+TEST_F(XWindowDisplayTest, TellsTheScreenAndThePointer) {
+  const int right = screen()[2] - 1;
+  const int bottom = screen()[3] - 1;
+  int width = 0;
+  int height = 0;
+  EXPECT_TRUE(XWindow::GetDisplayWindowRect(width, height));
+  EXPECT_EQ(width, right + 1);
+  EXPECT_EQ(height, bottom + 1);
+  const std::pair<int, int> corners[] = {
+      {0, 0}, {right, 0}, {0, bottom}, {right, bottom}, {321, 123}};
+  for (const auto& corner : corners) {
+    XWarpPointer(client_.display(), None, client_.root(), 0, 0, 0, 0,
+                 corner.first, corner.second);
+    XSync(client_.display(), False);
+    std::pair<int, int> got = {-1, -1};
+    XWindow::GetCursorPos(got.first, got.second);
+    EXPECT_EQ(got, corner);
+  }
+}
+
+TEST_F(XWindowDisplayTest, TellsAWindowByItsProperties) {
+  const Window window = client_.create(kPlace);
+  EXPECT_TRUE(XWindow::IsWindow(window));
+  EXPECT_FALSE(XWindow::EnableWindow(window, true));
+  XDeleteProperty(client_.display(), window,
+                  XInternAtom(client_.display(), "WM_NAME", True));
+  XSync(client_.display(), False);
+  EXPECT_FALSE(XWindow::IsWindow(window));
+}
+
+TEST_F(XWindowDisplayTest, RaisesAndMoves) {
+  const Window bottom = client_.create(kPlace);
+  const Window middle = client_.create(kPlace);
+  const Window top = client_.create(kPlace);
+  EXPECT_TRUE(XWindow::BringWindowToTop(bottom));
+  EXPECT_EQ(client_.stacking({bottom, middle, top}),
+            (Windows{middle, top, bottom}));
+  EXPECT_TRUE(XWindow::MoveWindow(middle, -300, 400, 1, 2000));
+  EXPECT_EQ(client_.rectangle(middle), (Rectangle{-300, 400, 1, 2000}));
+}
+
+TEST_F(XWindowDisplayTest, AnswersOneForEveryKey) {
+  for (const int key : {INT_MIN, -1, 0, 1, 2, 3, 4, 5, 65, 0xff0d, INT_MAX}) {
+    EXPECT_EQ(XWindow::GetKeyState(key), 1) << key;
+  }
+}
+
+XErrorEvent last_error{};
+int error_count = 0;
+
+int keep_error(Display*, XErrorEvent* error) {
+  last_error = *error;
+  ++error_count;
+  return 0;
+}
+
+// Runs in a process of its own: 0 when `call` answers `want`, with `refusals`
+// requests refused with `code`, under a handler of the host's.
+int run_with_handler(const std::function<int()>& call, int want, int refusals,
+                     int code) {
+  XSetErrorHandler(keep_error);
+  const bool good = call() == want && error_count == refusals &&
+                    last_error.error_code == code;
+  return good ? 0 : 3;
+}
+
+TEST_F(XWindowDisplayTest, LeavesRefusedRequestsToTheErrorHandler) {
+  const Window fresh = client_.create(kPlace);
+  const Window gone = client_.create(kPlace);
+  client_.destroy(gone);
+  int x = 0;
+  struct {
+    const char* name;
+    std::function<int()> call;
+    int want;  // under a handler that returns
+    int refusals;
+    int code;
+    const char* words;
+  } const cases[] = {
+      {"IsWindow", [&] { return XWindow::IsWindow(gone); }, 0, 1, BadWindow,
+       "BadWindow"},
+      {"GetWindowRect",
+       [&] { return XWindow::GetWindowRect(gone, x, x, x, x); }, 0, 1,
+       BadWindow, "BadWindow"},
+      {"BringWindowToTop", [&] { return XWindow::BringWindowToTop(gone); }, 1,
+       1, BadWindow, "BadWindow"},
+      {"MoveWindow", [&] { return XWindow::MoveWindow(gone, 1, 2, 3, 4); }, 1,
+       1, BadWindow, "BadWindow"},
+      {"MoveWindow(window 0)",
+       [&] { return XWindow::MoveWindow(0, 1, 2, 3, 4); }, 1, 1, BadWindow,
+       "BadWindow"},
+      {"MoveWindow(no width)",
+       [&] { return XWindow::MoveWindow(fresh, 1, 2, 0, 4); }, 1, 1, BadValue,
+       "BadValue"},
+      {"ShowWindow(hide)", [&] { return XWindow::ShowWindow(gone, 0); }, 1, 1,
+       BadWindow, "BadWindow"},
+      {"ShowWindow(show)", [&] { return XWindow::ShowWindow(gone, 5); }, 1, 1,
+       BadWindow, "BadWindow"},
+      {"SetWindowPos",
+       [&] { return XWindow::SetWindowPos(gone, fresh, 1, 2, 3, 4, 0x40); }, 1,
+       3, BadWindow, "BadWindow"},
+      {"SetWindowPos(after -1)",
+       [&] { return XWindow::SetWindowPos(fresh, ~0UL, 1, 2, 3, 4, 3); }, 0, 1,
+       BadWindow, "BadWindow"},
+  };
+  for (const auto& row : cases) {
+    EXPECT_EXIT(
+        {
+          row.call();
+          std::exit(0);
+        },
+        testing::ExitedWithCode(1), row.words)
+        << row.name;
+    EXPECT_EXIT(
+        std::exit(run_with_handler(row.call, row.want, row.refusals, row.code)),
+        testing::ExitedWithCode(0), "")
+        << row.name;
+  }
+}
+
+TEST_F(XWindowDisplayTest, HasNoDisplayWithoutItsCookie) {
+  const char* usual = std::getenv("XAUTHORITY");
+  ASSERT_NE(usual, nullptr);
+  const std::string kept = usual;
+  const std::string wrong = testing::TempDir() + "wrong_cookie";
+  setenv("XAUTHORITY", wrong.c_str(), 1);
+  for (const char* cookie : {"", "00112233445566778899aabbccddeeff"}) {
+    std::filesystem::remove(wrong);
+    if (*cookie != '\0') {
+      const std::string command = "xauth -q add $DISPLAY . ";
+      ASSERT_EQ(std::system((command + cookie).c_str()), 0);
+    }
+    int x = -9;
+    int y = -9;
+    EXPECT_FALSE(XWindow::GetDisplayWindowRect(x, y)) << cookie;
+    XWindow::GetCursorPos(x, y);
+    EXPECT_EQ(x, -9) << cookie;
+    EXPECT_EQ(y, -9) << cookie;
+  }
+  std::filesystem::remove(wrong);
+  setenv("XAUTHORITY", kept.c_str(), 1);
+}
+
+// --- Windows that a window manager has put into a frame
+
+class ManagedWindowTest : public XWindowDisplayTest {
+ protected:
+  void SetUp() override {
+    if (!client_.has_manager()) GTEST_SKIP() << "no window manager";
+  }
+};
+
+TEST_F(ManagedWindowTest, MovesWithItsFrame) {
+  const Window window = show_managed({200, 200, 300, 250});
+  const Rectangle before = client_.rectangle_on_root(window);
+  EXPECT_EQ(XWindow::SetWindowPos(window, 0, 60, 70, 320, 260, 0), 1);
+  client_.wait_until([&] { return client_.rectangle(window)[2] == 320; });
+  const Rectangle after = client_.rectangle_on_root(window);
+  EXPECT_NE(after, before);
+  const Rectangle in_frame = client_.rectangle(window);
+  EXPECT_EQ(after, (Rectangle{60 + in_frame[0], 70 + in_frame[1], 320, 260}));
+  Rectangle got{};
+  EXPECT_TRUE(XWindow::GetWindowRect(window, got[0], got[1], got[2], got[3]));
+  EXPECT_EQ(got, (Rectangle{after[0] + in_frame[0], after[1] + in_frame[1], 320,
+                            260}));
+}
+
+TEST_F(ManagedWindowTest, HidesShowsAndRises) {
+  const Window lower = show_managed({100, 100, 300, 250});
+  const Window upper = show_managed({150, 150, 300, 250});
+  client_.wait_until([&] {
+    return client_.stacking({lower, upper}) == (Windows{lower, upper});
+  });
+  EXPECT_TRUE(XWindow::BringWindowToTop(lower));
+  XSelectInput(client_.display(), client_.root(), SubstructureNotifyMask);
+  client_.wait_until([&] {
+    return client_.stacking({lower, upper}) == (Windows{upper, lower});
+  });
+  EXPECT_TRUE(XWindow::ShowWindow(lower, 0));
+  client_.wait_until([&] { return !client_.is_shown(lower); });
+  EXPECT_TRUE(XWindow::ShowWindow(lower, 5));
+  client_.wait_until([&] { return client_.is_shown(lower); });
+}
+
+TEST_F(ManagedWindowTest, IsNotMaximisedByTheMessage) {
+  const Window window = show_managed({200, 200, 300, 250});
+  EXPECT_FALSE(XWindow::ShowWindow(window, 3));
+  // The manager takes requests in order: behind this one it had seen both.
+  EXPECT_TRUE(XWindow::MoveWindow(window, 60, 70, 320, 260));
+  client_.wait_until([&] { return client_.rectangle(window)[2] != 300; });
+  EXPECT_EQ(client_.rectangle(window)[2], 320);
+  EXPECT_EQ(client_.rectangle(window)[3], 260);
+}
+
+TEST_F(ManagedWindowTest, IsNotRestackedByTheServer) {
+  const Window window = show_managed({100, 100, 300, 250});
+  const Window other = show_managed({150, 150, 300, 250});
+  EXPECT_EXIT(XWindow::SetWindowPos(window, other, 1, 2, 3, 4, 3),
+              testing::ExitedWithCode(1), "BadMatch");
+}
+
+}  // namespace
