@@ -61,6 +61,14 @@ test('a window and the display are told as objects', () => {
   told('getCursorPos', [], { x: 1279, y: 1023 });
 });
 
+test('another process can ask whether a window is there', () => {
+  const window = create();
+  const here = `xwininfo -id ${window} >/dev/null 2>&1 && echo here`;
+  check('System', [here], 'here\n');
+  ask(`destroy ${window}`);
+  check('System', [here], '');
+});
+
 test('a window that is gone ends the process, window 0 does not', () => {
   const gone = create();
   ask(`destroy ${gone}`);
