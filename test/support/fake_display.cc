@@ -60,6 +60,8 @@ std::string name_of(int code) {
   return "request";
 }
 
+constexpr std::uint32_t kRootWindow = FakeDisplay::kRoot;
+
 // Little-endian bytes, as both our platforms write them.
 class Bytes {
  public:
@@ -84,15 +86,18 @@ class Bytes {
 
 std::uint32_t word(const std::string& request, std::size_t index) {
   std::uint32_t value = 0;
+  if (request.size() < 4 * index + sizeof value) return value;
   std::memcpy(&value, request.data() + 4 * index, sizeof value);
   return value;
 }
 
-int half(const std::string& request, std::size_t index) {
+std::size_t half(const std::string& request, std::size_t index) {
   std::uint16_t value = 0;
   std::memcpy(&value, request.data() + 2 * index, sizeof value);
   return value;
 }
+
+std::size_t padded(std::size_t length) { return (length + 3) / 4 * 4; }
 
 int code_of(const std::string& request) {
   return static_cast<unsigned char>(request[0]);
@@ -111,7 +116,7 @@ std::string describe(const std::string& request) {
   const bool flag = request[1] != 0;
   if (code == X_InternAtom) {
     return text + (flag ? " existing " : " ") +
-           request.substr(8, static_cast<std::size_t>(half(request, 2)));
+           request.substr(8, half(request, 2));
   }
   if (code == X_SendEvent && flag) text += " propagated";
   for (std::size_t i = 1; 4 * i < request.size(); ++i) {
@@ -240,14 +245,15 @@ bool FakeDisplay::process(int socket, Connection& connection) {
   while (unread.size() >= (connection.set_up ? 4 : 12)) {
     std::string reply;
     if (!connection.set_up) {
+      // Then the name of an authorization and its data, which all may have.
+      const std::size_t size =
+          12 + padded(half(unread, 3)) + padded(half(unread, 4));
+      if (unread.size() < size) return true;
+      unread.erase(0, size);
       connection.set_up = true;
-      const auto padded = [&](std::size_t index) {
-        return static_cast<std::size_t>((half(unread, index) + 3) / 4 * 4);
-      };
-      unread.erase(0, 12 + padded(3) + padded(4));
       reply = setup();
     } else {
-      const auto size = static_cast<std::size_t>(half(unread, 1)) * 4;
+      const std::size_t size = half(unread, 1) * 4;
       if (unread.size() < size) return true;
       const int code = code_of(unread);
       if (code == value("close_at")) return false;
@@ -268,9 +274,7 @@ bool FakeDisplay::process(int socket, Connection& connection) {
 
 std::string FakeDisplay::setup() {
   Bytes screen;
-  screen.add32(static_cast<std::uint32_t>(kRoot))
-      .add32(0x20)
-      .zeros(12);  // root, colour map
+  screen.add32(kRootWindow).add32(0x20).zeros(12);
   screen.add16(value("width")).add16(value("height"));
   screen.add16(value("width_mm")).add16(271).add16(1).add16(1);
   screen.add32(0x21).zeros(2).add8(24).add8(1);             // visual, depths
@@ -288,17 +292,23 @@ std::string FakeDisplay::setup() {
   return head.text() + text;
 }
 
+// Notes a request, unless the X library makes it to open or to close.
+void FakeDisplay::note(Connection& connection, const std::string& request) {
+  const int code = code_of(request);
+  if (code == X_FreeGC) connection.closing = true;
+  if (connection.closing || code == X_CreateGC || code == X_QueryExtension ||
+      code == X_GetProperty) {
+    return;
+  }
+  if (!connection.requests.empty()) connection.requests += "; ";
+  connection.requests += describe(request);
+}
+
 std::string FakeDisplay::answer(Connection& connection,
                                 const std::string& request) {
   const int code = code_of(request);
   ++connection.sequence;
-  if (code == X_FreeGC) connection.closing = true;
-  const bool opening =
-      code == X_CreateGC || code == X_QueryExtension || code == X_GetProperty;
-  if (!opening && !connection.closing) {
-    if (!connection.requests.empty()) connection.requests += "; ";
-    connection.requests += describe(request);
-  }
+  note(connection, request);
   Bytes body;  // behind the reply's first eight bytes
   int data = 0;
   switch (code) {
@@ -321,10 +331,7 @@ std::string FakeDisplay::answer(Connection& connection,
     case X_QueryPointer:
       data = 1;
       // On the root window, and in the window asked about.
-      body.add32(static_cast<std::uint32_t>(kRoot))
-          .add32(0)
-          .add16(-1)
-          .add16(-1);
+      body.add32(kRootWindow).add32(0).add16(-1).add16(-1);
       body.add16(value("pointer_x")).add16(value("pointer_y"));
       break;
     case X_TranslateCoords:

@@ -44,6 +44,7 @@ class FakeDisplay {
     bool closing = false;  // what follows is the library's own
   };
 
+  static void note(Connection& connection, const std::string& request);
   void serve();
   bool process(int socket, Connection& connection);
   std::string answer(Connection& connection, const std::string& request);
