@@ -38,22 +38,24 @@ struct Operation {
   std::array<int, 4> requests;  // and zeros
 };
 
+int number(bool answer) { return answer ? 1 : 0; }
+
 void set_pos(Outcome& o) { o[0] = XWindow::SetWindowPos(5, 6, 1, 2, 3, 4, 64); }
-void hide(Outcome& o) { o[0] = int{XWindow::ShowWindow(5, 0)}; }
-void maximise(Outcome& o) { o[0] = int{XWindow::ShowWindow(5, 3)}; }
-void is_window(Outcome& o) { o[0] = int{XWindow::IsWindow(5)}; }
-void to_top(Outcome& o) { o[0] = int{XWindow::BringWindowToTop(5)}; }
-void enable(Outcome& o) { o[0] = int{XWindow::EnableWindow(5, true)}; }
-void move(Outcome& o) { o[0] = int{XWindow::MoveWindow(5, 1, 2, 3, 4)}; }
-void full_screen(Outcome& o) { o[0] = int{XWindow::IsInFullScreen()}; }
+void hide(Outcome& o) { o[0] = number(XWindow::ShowWindow(5, 0)); }
+void maximise(Outcome& o) { o[0] = number(XWindow::ShowWindow(5, 3)); }
+void is_window(Outcome& o) { o[0] = number(XWindow::IsWindow(5)); }
+void to_top(Outcome& o) { o[0] = number(XWindow::BringWindowToTop(5)); }
+void enable(Outcome& o) { o[0] = number(XWindow::EnableWindow(5, true)); }
+void move(Outcome& o) { o[0] = number(XWindow::MoveWindow(5, 1, 2, 3, 4)); }
+void full_screen(Outcome& o) { o[0] = number(XWindow::IsInFullScreen()); }
 void cursor(Outcome& o) { XWindow::GetCursorPos(o[1], o[2]); }
 void key(Outcome& o) { o[0] = XWindow::GetKeyState(65); }
 void button(Outcome& o) { o[0] = XWindow::GetKeyState(4); }
 void rectangle(Outcome& o) {
-  o[0] = int{XWindow::GetWindowRect(5, o[1], o[2], o[3], o[4])};
+  o[0] = number(XWindow::GetWindowRect(5, o[1], o[2], o[3], o[4]));
 }
 void screen(Outcome& o) {
-  o[0] = int{XWindow::GetDisplayWindowRect(o[1], o[2])};
+  o[0] = number(XWindow::GetDisplayWindowRect(o[1], o[2]));
 }
 
 constexpr Operation kOperations[] = {
@@ -100,7 +102,7 @@ class XWindowTest : public testing::Test {
 };
 
 TEST_F(XWindowTest, WritesNothingWithoutADisplay) {
-  const std::string display = std::getenv("DISPLAY");
+  const std::string display = XDisplayName(nullptr);
   unsetenv("DISPLAY");
   for (const Operation& operation : kOperations) {
     Outcome want = kNothing;
