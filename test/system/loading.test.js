@@ -65,9 +65,12 @@ test('a host library that is loaded already is the one called', () => {
 });
 
 test('the exported symbols are the public ones', () => {
+  const longName = new RegExp('std::__cxx11::basic_string<(w?)char(_t)?, ' +
+    'std::char_traits<[^>]*>, std::allocator<[^>]*> >', 'g');
   const exported = run('nm', '-DC', '--defined-only', '--format=just-symbols',
-    moduleFile).trim().split('\n').sort();
+    moduleFile).replace(longName, (_, wide) => `std::${wide}string`);
   const list = fs.readFileSync(
     path.join(__dirname, '../data/exported_symbols.txt'), 'utf8');
-  assert.deepStrictEqual(exported, list.trim().split('\n').sort());
+  const unique = new Set(exported.trim().split('\n').sort());
+  assert.deepStrictEqual([...unique], list.trim().split('\n'));
 });
