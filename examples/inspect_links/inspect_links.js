@@ -28,20 +28,19 @@ const kinds = {
   private: 'private link, which this platform makes but does not read',
 };
 
-function printTable(link, report) {
+function asTable(link, report) {
   if (report.error) {
-    console.log(`not a link (${report.error}): ${JSON.stringify(link)}`);
-    return;
+    return `not a link (${report.error}): ${JSON.stringify(link)}\n`;
   }
-  console.log(link);
-  for (const key of Object.keys(report)) {
+  const rows = Object.keys(report).map((key) => {
     const value = key === 'kind' ? kinds[report.kind] : report[key];
-    console.log(`  ${labels[key].padEnd(16)} ${value}`);
-  }
+    return `  ${labels[key].padEnd(16)} ${value}\n`;
+  });
+  return `${link}\n${rows.join('')}`;
 }
 
-function printJson(link, report) {
-  console.log(JSON.stringify(Object.assign({ link }, report)));
+function asJson(link, report) {
+  return `${JSON.stringify(Object.assign({ link }, report))}\n`;
 }
 
 // One line on the terminal, written over and over while a long list is read.
@@ -52,14 +51,14 @@ function showProgress(count) {
 }
 
 function main(args) {
-  const print = args.includes('--json') ? printJson : printTable;
+  const format = args.includes('--json') ? asJson : asTable;
   const links = args.filter((argument) => argument !== '--json');
   let count = 0;
   const inspect = (link) => {
     const report = addon.inspect(link);
     if (report.error) process.exitCode = 1;
-    print(link, report);
     count += 1;
+    return process.stdout.write(format(link, report));
   };
 
   if (links.length > 0) {
@@ -69,9 +68,11 @@ function main(args) {
   const lines = readline.createInterface({ input: process.stdin });
   lines.on('line', (line) => {
     if (line.trim() === '') return;
-    inspect(line);
+    // Whoever reads slower than this writes is waited for.
+    if (!inspect(line)) lines.pause();
     showProgress(count);
   });
+  process.stdout.on('drain', () => lines.resume());
   lines.on('close', () => {
     if (process.stderr.isTTY && count >= 1000) process.stderr.write('\n');
   });
