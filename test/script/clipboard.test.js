@@ -8,7 +8,7 @@ test('a registration is called back at once, with the link', () => {
   const register = () => check('attachClipBoard', [function callback(...args) {
     calls.push({ receiver: this, args, returned });
     return 'ignored';
-  }], 0);
+  }, 'more'], 0);
   register();
   register();
   returned = true;
@@ -21,6 +21,19 @@ test('a registration is called back at once, with the link', () => {
     assert(Array.isArray(call.args[1]));
     assert.deepStrictEqual(call.args[1], ['http://example.com/']);
   }
+});
+
+test('registered functions are kept', () => {
+  const megabytes = () => {
+    global.gc();
+    return process.memoryUsage().heapUsed / 2 ** 20;
+  };
+  const before = megabytes();
+  for (let i = 0; i < 20; i += 1) {
+    const kept = new Array(2 ** 17).fill(i);
+    check('attachClipBoard', [() => kept], 0);
+  }
+  assert(megabytes() - before > 15, 'functions were let go');
 });
 
 test('what the function throws is dropped', () => {

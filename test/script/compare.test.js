@@ -37,6 +37,20 @@ test('the locale of the environment decides', () => {
   if (!inEnglish) checkSign('\ubbd2', '\ua1d8', inChinese ? -1 : 1);
 });
 
+test('the result is the distance that the locale gives', () => {
+  if (locale !== 'C') return;
+  check('compareStr', ['a', 'd'], 3);
+  check('compareStr', ['d', 'a'], -3);
+});
+
+test('the environment is read on every call', () => {
+  process.env.LC_ALL = locale === 'C' ? 'en_US.UTF-8' : 'C';
+  assert.strictEqual(Math.sign(helper.compareStr('a', 'B')),
+    locale === 'C' ? 1 : -1);
+  process.env.LC_ALL = locale;
+  checkSign('a', 'B', locale === 'C' ? -1 : 1);
+});
+
 test('other arguments give 0', () => {
   for (const args of [[], ['b'], ['b', 'a', 'c'], [1, 'a'], ['b', 1], [2, 1],
     [new String('b'), 'a']]) {

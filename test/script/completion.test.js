@@ -55,6 +55,12 @@ test('what the callback throws is dropped, without one nothing happens', () => {
   }
 });
 
+test('a function without a name answers as its named twin does', () => {
+  for (const args of [[], ['/'], [1]]) {
+    assert.strictEqual(completions.queryFileExists(...args), false);
+  }
+});
+
 test('the holder lets its function go', () => {
   const megabytes = () => {
     global.gc();

@@ -3,10 +3,9 @@
 // What the module registers, before any function is called.
 
 const fs = require('fs');
-const os = require('os');
 const path = require('path');
 const { execFileSync } = require('child_process');
-const { assert, helper, test } = require('./harness');
+const { assert, helper, temporaryFolder, test } = require('./harness');
 
 const names = fs.readFileSync(
   path.join(__dirname, '../data/script_names.txt'), 'utf8').trim().split('\n');
@@ -26,7 +25,7 @@ test('every function carries its name and can be replaced', () => {
 });
 
 test('the module loads from a folder with nothing but its two files', () => {
-  const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'korvane-'));
+  const folder = temporaryFolder();
   const built = path.dirname(process.env.KORVANE_MODULE);
   const files = ['KorvaneHelper.node', 'libkorvane_host.so'];
   for (const file of files) {
@@ -35,7 +34,5 @@ test('the module loads from a folder with nothing but its two files', () => {
   const script = 'console.log(Object.keys(require("./KorvaneHelper")).length)';
   const printed = execFileSync(process.execPath, ['-e', script],
     { cwd: folder, env: {}, encoding: 'utf8' });
-  for (const file of files) fs.unlinkSync(path.join(folder, file));
-  fs.rmdirSync(folder);
   assert.strictEqual(printed, '163\n');
 });

@@ -4,6 +4,10 @@
 // test() and check(); the process ends with 1 if anything failed.
 
 const assert = require('assert');
+const fs = require('fs');
+const os = require('os');
+const path = require('path');
+const { execFileSync } = require('child_process');
 
 const helper = require(process.env.KORVANE_MODULE);
 let failures = 0;
@@ -27,8 +31,18 @@ function check(name, args, want) {
     `want ${typeof want} ${show(want)}, got ${typeof got} ${show(got)}`);
 }
 
+// A folder that goes with the process.
+function temporaryFolder() {
+  const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'korvane-'));
+  process.on('exit', () => {
+    process.chdir('/');
+    execFileSync('rm', ['-rf', folder]);
+  });
+  return folder;
+}
+
 process.on('exit', (code) => {
   if (code === 0 && failures > 0) process.exitCode = 1;
 });
 
-module.exports = { assert, check, helper, test };
+module.exports = { assert, check, helper, temporaryFolder, test };

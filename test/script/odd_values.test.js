@@ -4,14 +4,11 @@
 // places, alone and in pairs: nothing throws, and the answer is one that the
 // function may give. Runs without network and without a display.
 
-const fs = require('fs');
-const os = require('os');
-const path = require('path');
 const vm = require('vm');
-const { assert, check, helper, test } = require('./harness');
+const { assert, check, helper, temporaryFolder, test } = require('./harness');
 const { checked, fixed } = require('./answers');
 
-process.chdir(fs.mkdtempSync(path.join(os.tmpdir(), 'korvane-')));
+process.chdir(temporaryFolder());
 
 const throwing = () => { throw new Error('from script'); };
 const { proxy, revoke } = Proxy.revocable(() => {}, {});

@@ -1,12 +1,9 @@
 'use strict';
 
 const fs = require('fs');
-const os = require('os');
-const path = require('path');
-const { assert, check, helper, test } = require('./harness');
+const { assert, check, helper, temporaryFolder, test } = require('./harness');
 
-const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'korvane-'));
-process.chdir(folder);
+process.chdir(temporaryFolder());
 const count = (file) => fs.readdirSync(file).length;
 
 // A command of exactly `length` bytes that prints the length of its argument.
@@ -30,7 +27,7 @@ test('System answers what the command prints', () => {
     ['echo a\0b', 'a\n'],
     ['', ''],
   ];
-  for (const [command, want] of cases) check('System', [command], want);
+  for (const [command, want] of cases) check('System', [command, 1], want);
 });
 
 test('System cuts the command after 1,023 bytes', () => {
@@ -43,6 +40,7 @@ test('System cuts the command after 1,023 bytes', () => {
   // A character that does not fit is left out whole.
   check('System', [`${head}12345é`], '12345é\n');
   check('System', [`${head}123456é`], '123456\n');
+  check('System', [`${head}12345😀`], '12345\n');
 });
 
 test('System cuts the output after 20,479 bytes', () => {
@@ -50,6 +48,8 @@ test('System cuts the output after 20,479 bytes', () => {
   check('System', print(20478), 'x'.repeat(20478));
   check('System', print(20479), 'x'.repeat(20479));
   check('System', print(20480), 'x'.repeat(20479));
+  check('System', ["printf '中%.0s' $(seq 7000)"],
+    `${'中'.repeat(6826)}\ufffd`);  // the last character is cut
   check('System', ['yes'], 'y\n'.repeat(10240).slice(0, 20479));
 });
 
@@ -99,7 +99,3 @@ test('getLogicalDriveStrings writes the table of file systems', () => {
   assert(/^Filesystem +Size +Used/.test(written), written.slice(0, 60));
   assert(!written.includes('old'));
 });
-
-fs.readdirSync(folder).forEach((file) => fs.unlinkSync(file));
-process.chdir('/');
-fs.rmdirSync(folder);

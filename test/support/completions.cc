@@ -1,5 +1,6 @@
-// Gives a script the completion functions, which nothing on this platform
-// calls. The last argument of each becomes its holder.
+// Gives a script what it cannot reach in the module: the completion functions,
+// which nothing on this platform calls, and a function that has no name. The
+// last argument of each becomes its holder.
 #include "korvane_helper.h"
 
 namespace {
@@ -61,11 +62,16 @@ void on_get_app_list(const Arguments& arguments) {
                                 holder(arguments)));
 }
 
+void query_file_exists(const Arguments& arguments) {
+  KorvaneHelper::ExportQueryFileExists(arguments);
+}
+
 void register_functions(v8::Local<v8::Object> exports) {
   NODE_SET_METHOD(exports, "onIsSSD", on_is_ssd);
   NODE_SET_METHOD(exports, "onGetDriveMediaType", on_get_drive_media_type);
   NODE_SET_METHOD(exports, "onGetCpuList", on_get_cpu_list);
   NODE_SET_METHOD(exports, "onGetAppList", on_get_app_list);
+  NODE_SET_METHOD(exports, "queryFileExists", query_file_exists);
 }
 
 }  // namespace

@@ -33,6 +33,13 @@ test('the factor is the screen\'s scale, truncated to two places', () => {
   }
 });
 
+test('every question leaves one connection open', () => {
+  const count = 'require("fs").readdirSync("/proc/self/fd").length';
+  const [before, after] = evaluate([withDisplay],
+    `[${count}, (${both}, m.getDPIAwareSupport(), ${count})]`);
+  assert.strictEqual(after - before, 2);
+});
+
 test('without a display the factor is 1', () => {
   const nowhere = [['env', '-u', 'DISPLAY'], ['env', 'DISPLAY='],
     ['env', 'DISPLAY=:4294967'], ['env', 'DISPLAY=nowhere:0']];

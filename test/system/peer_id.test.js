@@ -9,13 +9,17 @@ const { assert, test } = require('../script/harness');
 const inNamespace = path.join(__dirname, '../support/in_namespace');
 const callPeerId = `
   const helper = require(process.env.KORVANE_MODULE);
-  process.stderr.write(process.pid + ' ' + helper.getPeerID());`;
+  process.stderr.write(process.pid + ' ' + helper.getPeerID());
+  process.kill(process.pid, 'SIGKILL');`;  // the trace is out by now
 
 // Runs a shell setup, then a program, in a namespace. The shell stays: the
 // first process of a namespace would not get its own signals.
 function run(setup, program, ...args) {
-  return spawnSync(inNamespace, ['sh', '-ec', `${setup}\n"$0" "$@"; exit $?`,
-    program, ...args], { encoding: 'utf8', timeout: 20000 });
+  const result = spawnSync(inNamespace,
+    ['sh', '-ec', `${setup}\n"$0" "$@"; exit $?`, program, ...args],
+    { encoding: 'utf8', timeout: 20000 });
+  result.stderr = result.stderr.replace('Killed\n', '');  // the shell's word
+  return result;
 }
 
 const up = 'ip link set lo up';
@@ -53,6 +57,31 @@ test('the last listed interface names the peer', () => {
   }
 });
 
+test('a failed request names its reason and place', () => {
+  // The kernel's numbers for the list, the flags and the address.
+  for (const [request, line] of [[0x8912, 170], [0x8913, 130], [0x8927, 162]]) {
+    const { stdout, stderr } = run(`${up}
+      export LD_PRELOAD=${process.env.KORVANE_WATCHED_CALLS}
+      export FAILED_REQUEST=${request}`, process.execPath, '-e', callPeerId);
+    assert(stderr.endsWith(' 007V'), stderr);
+    const printed = stdout.split('\n');
+    assert.strictEqual(printed[line === 170 ? 0 : 3],
+      `ioctl: Input/output error [src/linux_shell:${line}]`);
+    assert.strictEqual(printed.length, line === 170 ? 3 : 6);
+  }
+});
+
+test('100 questions for the peer leave no descriptor open', () => {
+  const { stderr } = run(up, process.execPath, '-e', `
+    const { readdirSync } = require('fs');
+    const count = () => readdirSync('/proc/self/fd').length;
+    const helper = require(process.env.KORVANE_MODULE);
+    const before = count();
+    for (let i = 0; i < 100; i += 1) helper.getPeerID();
+    process.stderr.write(String(count() - before));`);
+  assert.strictEqual(stderr, '0');
+});
+
 test('without a socket there is no address', () => {
   const { stdout, stderr } = run('', 'sh', '-c', `exec "$0" -e '
     const fs = require("fs");
@@ -68,9 +97,11 @@ test('GetIp learns the address from its own broadcast', () => {
   const caller = process.env.KORVANE_CALL_LINUX_SHELL;
   const broadcast = (source) => `${up}
     ip addr add ${source}/32 dev lo 2>/dev/null || true
-    ip route add 255.255.255.255 dev lo src ${source}`;
+    ip route add 255.255.255.255 dev lo src ${source}
+    export LD_PRELOAD=${process.env.KORVANE_WATCHED_CALLS}`;
   for (const source of ['127.0.0.1', '10.10.100.10']) {
-    const { stdout, status } = run(broadcast(source), caller, 'ip');
+    const { stdout, stderr, status } = run(broadcast(source), caller, 'ip');
+    assert.strictEqual(stderr, 'broadcast test to 255.255.255.255:7778\n');
     assert.strictEqual(stdout, `${source}\nagain: \n`);
     assert.strictEqual(status, 0);
   }

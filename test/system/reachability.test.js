@@ -5,19 +5,18 @@
 // tells which name was looked up.
 
 const fs = require('fs');
-const os = require('os');
 const path = require('path');
 const { execFileSync } = require('child_process');
-const { check, test } = require('../script/harness');
+const { check, temporaryFolder, test } = require('../script/harness');
 
 const longest = 'a'.repeat(8181);
 const shorter = 'b'.repeat(8180);
 
-const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'korvane-'));
+const folder = temporaryFolder();
 const replaced = {
   hosts: ['127.0.0.1 localhost', '10.0.0.1 known', '10.0.0.2 undefined',
     '10.0.0.3 null', '10.0.0.4 HTTP:', '10.0.0.5 xhttp:', 
-    '10.0.0.6 other?http: other?https:',
+    '10.0.0.6 other?http: other?https: known?https:',
     '10.0.0.7 https:', '10.0.0.8 known\\a', `10.0.0.9 ${longest}`,
     `10.0.0.10 ${shorter}`],
   'resolv.conf': ['nameserver 127.0.0.1', 'options timeout:1 attempts:1'],
@@ -58,7 +57,7 @@ test('one scheme at the start is stripped, case-sensitively', () => {
     ['http://http://known', 1],  // looks up "http:"
     // A scheme found further on stops the search for the next one.
     ['ftp://other?http://', 0], ['ftp://other?https://', 0],
-    ['https://other?http://', 1],
+    ['http://known?https://', 1],
   ]);
 });
 

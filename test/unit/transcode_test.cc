@@ -8,6 +8,7 @@
 #include <string>
 
 #include "exact_copy.h"
+#include "text/iconv_conversion.h"
 
 namespace {
 
@@ -300,6 +301,12 @@ TEST(Transcode, NoTextEmptiesTheOutput) {
   expect_empty(kNarrow, narrow, std::string("old"));
   expect_empty(kToWide, narrow, std::wstring(L"old"));
   expect_empty(kFromWide, wide, std::string("old"));
+}
+
+TEST(Transcode, AnUnknownCharacterSetGivesNothing) {
+  std::string out = "old";
+  EXPECT_FALSE(qk::text::convert("UTF-8", "no such set", "a", 1, 9, out));
+  EXPECT_EQ(out, "");
 }
 
 TEST(Transcode, LongTextsAndTextInsideTheOutput) {
