@@ -49,7 +49,6 @@ function call(name, args, id, done) {
 
 heading('The display, as the module sees it');
 call('getDisplayWindowRect', []);
-run('xdotool', 'mousemove', 640, 480);
 call('getCursorPos', []);
 call('getKeyState', [1]);
 
