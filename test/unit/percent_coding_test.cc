@@ -8,6 +8,7 @@
 
 #include "allocation_counter.h"
 #include "exact_copy.h"
+#include "rows.h"
 #include "url/text_decoding.h"
 #include "url/url_object.h"
 #include "widen.h"
@@ -80,36 +81,11 @@ TEST(Decode, UndoesEscapesOfEveryValueInBothCases) {
 }
 
 TEST(Decode, KeepsWhatIsNoEscape) {
-  const struct {
-    const char* text;
-    const char* want;       // of every variant but
-    const char* separated;  // of the wide decode
-  } rows[] = {
-      {"", "", ""},
-      {"%", "%", "%"},
-      {"%4", "%4", "%4"},
-      {"%41", "A", "A"},
-      {"a%20b", "a b", "a b"},
-      {"100%", "100%", "100%"},
-      {"%zz1", "%zz1", "%zz1"},
-      {"%4a%4A", "JJ", "JJ"},
-      {"%%41", "%A", "%A"},
-      {"%4%41", "%4A", "%4A"},
-      {"%%%", "%%%", "%%%"},
-      {"%2541", "%41", "%41"},
-      {"%2F%41", "/A", "%2FA"},
-      {"%2f%2fx%3", "//x%3", "%2f%2fx%3"},
-      {"a%2", "a%2", "a%2"},
-      {"a+b", "a+b", "a+b"},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.text);
-    EXPECT_EQ(url_object::decode(std::string(row.text)), row.want);
-    EXPECT_EQ(url_object::decode_ex(std::string(row.text)), row.want);
-    EXPECT_EQ(url_object::decode_ex(as<wchar_t>(row.text)),
-              as<wchar_t>(row.want));
-    EXPECT_EQ(url_object::decode(as<wchar_t>(row.text)),
-              as<wchar_t>(row.separated));
+  for (const Row& row : rows_of("decoded")) {
+    EXPECT_EQ(url_object::decode(bytes(row[0])), bytes(row[1])) << row[0];
+    EXPECT_EQ(url_object::decode_ex(bytes(row[0])), bytes(row[1])) << row[0];
+    EXPECT_EQ(url_object::decode_ex(row[0]), row[1]) << row[0];
+    EXPECT_EQ(url_object::decode(row[0]), row.back()) << row[0];
   }
 }
 
@@ -135,17 +111,14 @@ TEST(Decode, TakesHexadecimalDigitsOnly) {
   }
 }
 
-TEST(Decode, KeepsUnitsOfEverySizeAndZeros) {
-  const std::wstring text = {
-      L'%', L'4',          L'1',         L'\0',
-      L'a', unit(0x1F600), unit(0xD800), unit(0xFFFFFFFF),
-      L'%', L'0',          L'0'};
-  const std::wstring want = {
-      L'A', L'\0', L'a', unit(0x1F600), unit(0xD800), unit(0xFFFFFFFF), L'\0'};
-  EXPECT_EQ(url_object::decode(text), want);
-  EXPECT_EQ(url_object::decode_ex(text), want);
-  EXPECT_EQ(url_object::decode(std::string("\0%00\xE4%E4", 8)),
-            std::string("\0\0\xE4\xE4", 4));
+TEST(Decode, KeepsUnitsOfEverySize) {
+  for (const unsigned code : {0x80U, 0xE9U, 0x1F600U, 0xD800U, 0xFFFFFFFFU}) {
+    const std::wstring text = {unit(code), L'%', L'4', L'1', unit(code)};
+    const std::wstring want = {unit(code), L'A', unit(code)};
+    EXPECT_EQ(url_object::decode(text), want) << code;
+    EXPECT_EQ(url_object::decode_ex(text), want) << code;
+    EXPECT_EQ(url_object::decode(bytes(text)), bytes(want)) << code;
+  }
 }
 
 TEST(PercentDecode, WorksInPlaceAndNarrows) {
@@ -163,45 +136,12 @@ TEST(PercentDecode, WorksInPlaceAndNarrows) {
 }
 
 TEST(DecodeWithCodePage, ReadsEscapesAsBytes) {
-  const struct {
-    std::wstring text;
-    unsigned code_page;
-    std::wstring want;
-  } rows[] = {
-      {L"", 0, L""},
-      {L"plain", 65001, L"plain"},
-      {L"a%20b%2F", 1252, L"a b/"},
-      {L"%", 0, L"%"},
-      {L"caf%C3%A9", 65001, L"caf\u00E9"},
-      {L"caf%C3%A9", 0, L"caf\u00E9"},
-      {L"caf%C3%A9", 0xFFFFFFFF, L"caf\u00E9"},
-      {L"caf%E9", 1252, L"caf\u00E9"},
-      {L"%D6%D0", 936, L"\u4E2D"},
-      {L"%D6%D0", 0, L"\u4E2D"},
-      {L"%F0%9F%98%80", 65001, L"\U0001F600"},
-      {L"%7F%80", 1252, L"\x7F\u20AC"},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(url_object::decode_ex(row.text, row.code_page), row.want)
-        << row.text << ", code page " << row.code_page;
+  for (const Row& row : rows_of("code pages")) {
+    EXPECT_EQ(
+        url_object::decode_ex(row[0], static_cast<unsigned>(number(row[1]))),
+        row[2])
+        << row[0] << ", code page " << row[1];
   }
-}
-
-TEST(DecodeWithCodePage, LeavesTextThatHoldsCharactersAbove127) {
-  for (const unsigned code :
-       {0x80U, 0xE9U, 0x4E2DU, 0xD800U, 0x1F600U, 0x80000041U}) {
-    std::wstring text = {L'a', L'\0', unit(code), L'\0'};
-    text += L"%20";
-    EXPECT_EQ(url_object::decode_ex(text, 65001), text) << code;
-  }
-  EXPECT_EQ(url_object::decode_ex(L"\x7F%20", 65001), L"\x7F ");
-}
-
-TEST(DecodeWithCodePage, EndsAsciiTextAtItsFirstZero) {
-  EXPECT_EQ(url_object::decode_ex(std::wstring(L"ab\0c\0d", 6), 0), L"ab");
-  EXPECT_EQ(url_object::decode_ex(std::wstring(L"%41\0%42", 7), 0), L"A");
-  EXPECT_EQ(url_object::decode_ex(L"%41%00%E9", 0), L"A");
-  EXPECT_EQ(url_object::decode_ex(L"%E9%00%E9", 1252), L"\u00E9");
 }
 
 TEST(DecodeWithCodePage, TakesTextOfEveryLength) {
@@ -221,22 +161,8 @@ TEST(DecodeWithCodePage, AllocatesOnlyForLongOrForeignText) {
 }
 
 TEST(Encode, EscapesSpecialAndReservedCharacters) {
-  const struct {
-    std::wstring text, want;
-  } rows[] = {
-      {L"", L""},
-      {L"a b/%41%", L"a%20b%2F%41%25"},
-      {L"%4", L"%254"},
-      {L"%zz", L"%25zz"},
-      {L"%%41", L"%25%41"},
-      {L"%2f%2F", L"%2f%2F"},
-      {L"AZaz09-._!'()*", L"AZaz09-._!'()*"},
-      {L"\u00FC\u4E2D\U0001F600", L"\u00FC\u4E2D\U0001F600"},
-      {std::wstring(L"\0\x1F\x7F", 3), L"%00%1F%7F"},
-      {std::wstring(1, unit(0x80000020)), std::wstring(1, unit(0x80000020))},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(url_object::encode_ex(row.text), row.want) << row.text;
+  for (const Row& row : rows_of("encoded")) {
+    EXPECT_EQ(url_object::encode_ex(row[0]), row[1]) << row[0];
   }
   for (unsigned code = 0; code < 0x180; ++code) {
     if (code == '%') continue;
@@ -264,16 +190,11 @@ class TrimPreSpace : public testing::Test {};
 TYPED_TEST_SUITE(TrimPreSpace, BothCharacterTypes, CharacterTypeName);
 
 TYPED_TEST(TrimPreSpace, RemovesLeadingSpacesAndTabsOnly) {
-  const struct {
-    const char* text;
-    const char* want;
-  } rows[] = {{"", ""},         {"x", "x"},     {"\t  x y ", "x y "},
-              {" \t ", ""},     {"\nx", "\nx"}, {"x \t", "x \t"},
-              {" \v x", "\v x"}};
-  for (const auto& row : rows) {
-    auto text = as<TypeParam>(row.text);
+  using String = std::basic_string<TypeParam>;
+  for (const Row& row : rows_of("trimmed")) {
+    String text(row[0].begin(), row[0].end());
     url_object::trim_pre_space(text);
-    EXPECT_EQ(text, as<TypeParam>(row.want)) << row.text;
+    EXPECT_EQ(text, String(row[1].begin(), row[1].end())) << row[0];
   }
 }
 
