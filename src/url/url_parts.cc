@@ -1,12 +1,16 @@
 #include "url/url_parts.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 #include "text/format_utility.h"
 #include "url/percent_coding.h"
 
 namespace qk::url {
 namespace {
+
+using std::string_view_literals::operator""sv;
 
 constexpr std::size_t kNowhere = std::wstring_view::npos;
 constexpr std::wstring_view kSchemeEnd = L"://";
@@ -83,9 +87,21 @@ bool read_port(std::wstring_view digits, std::uint32_t& port) {
   return true;
 }
 
+// No text of the number layer: that allocates, and printing must not fail once
+// it writes.
+std::string_view decimal(std::uint32_t number, std::array<char, 10>& digits) {
+  char* const begin = digits.data();
+  const char* const end =
+      std::to_chars(begin, begin + digits.size(), number).ptr;
+  return {begin, static_cast<std::size_t>(end - begin)};
+}
+
 class Measure {
  public:
-  void put(std::wstring_view text) { size_ += text.size(); }
+  template <typename Unit>
+  void put(std::basic_string_view<Unit> text) {
+    size_ += text.size();
+  }
   void put_escaped(std::wstring_view text) { size_ += escaped_size(text); }
   std::size_t size() const { return size_; }
 
@@ -96,7 +112,8 @@ class Measure {
 class Writer {
  public:
   explicit Writer(wchar_t* out) : out_(out) {}
-  void put(std::wstring_view text) {
+  template <typename Unit>
+  void put(std::basic_string_view<Unit> text) {
     out_ = std::copy(text.begin(), text.end(), out_);
   }
   void put_escaped(std::wstring_view text) { out_ = escape(text, out_); }
@@ -112,14 +129,15 @@ void print_to(Sink& sink, const UrlParts& parts) {
   if (!parts.user.empty() || !parts.password.empty()) {
     sink.put_escaped(parts.user);
     // Kept: callers rely on the ":" even without a password.
-    sink.put(L":");
+    sink.put(":"sv);
     sink.put_escaped(parts.password);
-    sink.put(L"@");
+    sink.put("@"sv);
   }
   sink.put(parts.host);
   if (parts.port != url_object::default_port_for(parts.type)) {
-    sink.put(L":");
-    sink.put(text::format_utility_t<wchar_t>::to_string(parts.port));
+    std::array<char, 10> digits;
+    sink.put(":"sv);
+    sink.put(decimal(parts.port, digits));
   }
   sink.put(parts.path);
 }
