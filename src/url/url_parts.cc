@@ -10,7 +10,7 @@
 namespace qk::url {
 namespace {
 
-using std::string_view_literals::operator""sv;
+using namespace std::string_view_literals;
 
 constexpr std::size_t kNowhere = std::wstring_view::npos;
 constexpr std::wstring_view kSchemeEnd = L"://";
