@@ -259,8 +259,8 @@ TEST(MagnetLink, TheCFunctionRefusesNullAndAbsurdLengths) {
 TEST(MagnetLink, TheCFunctionAllocatesNothing) {
   std::wstring long_link = kLink;
   for (int i = 0; i < 1000; ++i) long_link += L"&tr=udp%3A%2F%2Fh%3A80&dn=%20";
-  for (const std::wstring& url :
-       {kLink, long_link, L"magnet:?" + kTopic + kBase32, L"magnet:?xt=x"s}) {
+  const std::wstring base32 = link_with_hash(kBase32);
+  for (const std::wstring& url : {kLink, long_link, base32, L"magnet:?xt=x"s}) {
     std::array<unsigned char, 20> hash{};
     EXPECT_EQ(allocations_of([&] {
                 parse_magnet_url_u(url.data(), url.size(), hash.data());
