@@ -4,12 +4,14 @@
 
 #include <array>
 #include <cstring>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "allocation_counter.h"
+#include "case_file.h"
 #include "exact_copy.h"
 #include "url/encoders.h"
 #include "url/korvane_links.h"
@@ -45,6 +47,13 @@ std::pair<long, std::string> c_answer(const std::wstring& url) {
   return {code, {hash.begin(), hash.end()}};
 }
 
+// Texts that the rows of magnet_links.txt name.
+CaseNames names() {
+  return {{"$base16", as_in_case(kBase16, {})},
+          {"$base32", as_in_case(kBase32, {})},
+          {"$hash", kHash}};
+}
+
 struct Parsed {
   explicit Parsed(const std::wstring& url)
       : link(url), valid(link.parse_magnet_url()) {
@@ -53,6 +62,17 @@ struct Parsed {
         valid ? 0 : -1, valid ? link.get_info_hash() : kPattern};
     EXPECT_EQ(c_answer(url), want) << testing::PrintToString(url);
     EXPECT_EQ(link.get_url(), url);
+  }
+  // Whether it is a link, and its fields other than an info hash of kHash.
+  std::string description() const {
+    std::wostringstream out;
+    out << (valid ? "yes" : link.has_info_hash() ? "no, but a hash" : "no");
+    if (hash() != kHash) out << " hash=" << hash().c_str();
+    if (!link.get_display_name().empty()) {
+      out << " name=" << link.get_display_name();
+    }
+    for (const auto& tracker : link.get_trackers()) out << " tr=" << tracker;
+    return as_in_case(out.str(), names());
   }
   std::string hash() const {
     return encode_base16(link.get_info_hash().data(),
@@ -71,78 +91,11 @@ TEST(MagnetLink, IsFreshBeforeItIsParsed) {
   EXPECT_FALSE(link.has_info_hash());
 }
 
-TEST(MagnetLink, BeginsExactlyAndNeedsAnInfoHash) {
-  const struct {
-    std::wstring url;
-    bool valid, has_hash;
-  } kCases[] = {
-      {kLink, true, true},
-      {L"", false, false},
-      {L"magnet:", false, false},
-      {L"magnet:?", false, false},
-      {L"magnet:?&", false, false},
-      {L"magnet:?dn=x", false, false},
-      {L"MAGNET:?" + kTopic + kBase16, false, false},
-      {L"magnet?:" + kTopic + kBase16, false, false},
-      {L" " + kLink, false, false},
-      {L"magnet:?XT=urn:btih:" + kBase16, false, false},
-      {L"magnet:?xt=URN:btih:" + kBase16, false, false},
-      {L"magnet:?xt=urn:btih" + kBase16, false, false},
-      {L"magnet:?xt=" + kBase16, false, false},
-      {L"magnet:?xt", false, false},
-      {L"magnet:?xt=", false, false},
-      {L"magnet:?xt=urn:btih:", false, true},
-      {L"magnet:?&&" + kTopic + kBase16 + L"&&", true, true},
-      {kLink + L"&xt=urn:sha1:x", false, true},
-      {kLink + L"&xt.2=x", false, true},
-      {kLink + L"&x=1&xtt=2&xt,1=3&as=4&ws", true, true},
-      {L"magnet:?xt.1=urn:btih:" + kBase16, true, true},
-      {L"magnet:?xt.=urn:btih:" + kBase16, true, true},
-      {L"magnet:?xtx=urn:btih:" + kBase16, false, false},
-      {L"magnet:?x=urn:btih:" + kBase16, false, false},
-  };
-  for (const auto& test : kCases) {
-    const Parsed parsed(test.url);
-    EXPECT_EQ(parsed.valid, test.valid) << testing::PrintToString(test.url);
-    EXPECT_EQ(parsed.link.has_info_hash(), test.has_hash)
-        << testing::PrintToString(test.url);
-  }
-}
-
-TEST(MagnetLink, ReadsHashesOf32And40CharactersOnly) {
-  for (std::size_t length = 0; length <= 48; ++length) {
-    const std::wstring hash(length, L'A');
-    const Parsed parsed(link_with_hash(hash));
-    EXPECT_EQ(parsed.valid, length == 32 || length == 40) << length;
-    EXPECT_EQ(parsed.hash(), length == 32   ? std::string(40, '0')
-                             : length == 40 ? std::string(40, 'A')
-                                            : "");
-  }
-  const struct {
-    std::wstring hash;
-    const char* want;
-  } kCases[] = {
-      {kBase16, kHash},
-      {kBase32, kHash},
-      {L"0123456789ABCDEF0123456789ABCDEF01234567", kHash},
-      {std::wstring(32, L'7'), "FFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF"},
-      // A zero, or what is no character, ends the hash like its end.
-      {kBase16 + L'\0' + L"x", kHash},
-      {kBase32 + L'\xD800' + L"x", kHash},
-      // Sixteen characters of two bytes each: the right length, no digit.
-      {std::wstring(16, L'\xE9'), "0000000000000000000000000000000000000000"},
-      {std::wstring(20, L'\xE9'), "0000000000000000000000000000000000000000"},
-      {std::wstring(8, L'\x1F600'), "0000000000000000000000000000000000000000"},
-      {std::wstring(24, L'7') + std::wstring(4, L'\xE9'),
-       "FFFFFFFFFFFFFFFFFFFFFFFFFFFFFF0000000000"},
-      {std::wstring(33, L'A') + L"\xE9", ""},
-      {std::wstring(32, L'\xE9'), ""},
-      {std::wstring(31, L'A') + L'\0' + L"A", ""},
-  };
-  for (const auto& test : kCases) {
-    const Parsed parsed(link_with_hash(test.hash));
-    EXPECT_EQ(parsed.valid, test.want[0] != 0);
-    EXPECT_EQ(parsed.hash(), test.want) << testing::PrintToString(test.hash);
+TEST(MagnetLink, ReadsWhatEachRowWants) {
+  const std::vector<Case> cases = read_cases("magnet_links.txt", names());
+  EXPECT_GT(cases.size(), 50U);
+  for (const Case& test : cases) {
+    EXPECT_EQ(Parsed(test.input).description(), test.want) << test.row;
   }
 }
 
@@ -172,57 +125,6 @@ TEST(MagnetLink, ABadDigitEndsBase16AndLeavesZerosBehindIt) {
           << place;
     }
   }
-}
-
-TEST(MagnetLink, TheLastHashWins) {
-  const std::wstring other(40, L'e');
-  EXPECT_EQ(Parsed(kLink + L"&" + kTopic + other).hash(), std::string(40, 'E'));
-  EXPECT_EQ(
-      Parsed(L"magnet:?" + kTopic + other + L"&" + kTopic + kBase32).hash(),
-      kHash);
-}
-
-TEST(MagnetLink, DecodesNamesOnceAndTrackersTwice) {
-  const struct {
-    std::wstring query, name;
-    Items trackers;
-  } kCases[] = {
-      {L"dn=a%20b", L"a b", {}},
-      {L"dn=a&dn.1=b&dn.=c", L"c", {}},
-      {L"dn", L"dn", {}},
-      {L"dn=", L"", {}},
-      {L"dn=%E4%B8%AD", L"\xE4\xB8\xAD", {}},
-      {L"dn=%252F%2F", L"%2F/", {}},
-      {L"dn=\x1F600%20\xD800%4", L"\x1F600 \xD800%4", {}},
-      {L"dn=a=b", L"a=b", {}},
-      {L"dn=a%00b", L"a\0b"s, {}},
-      {L"DN=a&dnx=b&d=c&TR=d&trr=e&t=f", L"", {}},
-      {L"tr=udp%3A%2F%2Fhost%3A80", L"", {L"udp://host:80"}},
-      {L"tr=a&tr.1=b&tr=a", L"", {L"a", L"b", L"a"}},
-      {L"tr", L"", {L"tr"}},
-      {L"tr=&tr==", L"", {L"", L"="}},
-      {L"tr=%252F%2541%25", L"", {L"%2FA%"}},
-      {L"tr=x%25%34%31", L"", {L"xA"}},
-      {L"tr=%2525", L"", {L"%"}},
-      {L"tr=\x4E2D%E4", L"", {L"\x4E2D\xE4"}},
-  };
-  for (const auto& test : kCases) {
-    const Parsed parsed(link_with(test.query));
-    EXPECT_TRUE(parsed.valid);
-    EXPECT_EQ(parsed.link.get_display_name(), test.name)
-        << testing::PrintToString(test.query);
-    EXPECT_EQ(parsed.link.get_trackers(), test.trackers)
-        << testing::PrintToString(test.query);
-  }
-}
-
-TEST(MagnetLink, KeepsWhatItReadBeforeAFault) {
-  const Parsed parsed(L"magnet:?tr=a&dn=b&xt=urn:btih:" + kBase16 +
-                      L"&tr=c&xt=x&tr=d&dn=e");
-  EXPECT_FALSE(parsed.valid);
-  EXPECT_EQ(parsed.hash(), kHash);
-  EXPECT_EQ(parsed.link.get_display_name(), L"b");
-  EXPECT_EQ(parsed.link.get_trackers(), (Items{L"a", L"c"}));
 }
 
 TEST(MagnetLink, DividesWithoutAnEmptyLastItem) {
