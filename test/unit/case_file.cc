@@ -53,15 +53,14 @@ std::vector<Case> read_cases(const std::string& file, const CaseNames& names) {
   for (std::string line; std::getline(in, line);) {
     const std::size_t arrow = line.find(" => ");
     if (line.rfind('[', 0) == 0) {
-      rule = line;
+      rule = line + ' ';
     } else if (line.rfind("> ", 0) == 0) {
       frame = line.substr(2);
     } else if (arrow != std::string::npos) {
       std::string input = frame;
       replace_all(input, "@", line.substr(0, arrow));
       for (const auto& [name, text] : names) replace_all(input, name, text);
-      cases.push_back(
-          {rule + " " + line, read_units(input), line.substr(arrow + 4)});
+      cases.push_back({rule + line, read_units(input), line.substr(arrow + 4)});
     }
   }
   return cases;
