@@ -6,6 +6,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "rows.h"
+
 namespace {
 
 void replace_all(std::string& text, const std::string& from,
@@ -14,32 +16,6 @@ void replace_all(std::string& text, const std::string& from,
        at = text.find(from, at + to.size())) {
     text.replace(at, from.size(), to);
   }
-}
-
-// Reads a number in braces at `position` and moves past it.
-unsigned long read_braced(const std::string& text, std::size_t& position,
-                          int base) {
-  const unsigned long number =
-      std::stoul(text.substr(position + 1), nullptr, base);
-  position = text.find('}', position) + 1;
-  return number;
-}
-
-std::wstring read_units(const std::string& text) {
-  std::wstring units;
-  unsigned long times = 1;
-  for (std::size_t i = 0; i < text.size();) {
-    if (text.compare(i, 3, "\\*{") == 0) {
-      times = read_braced(text, i += 2, 10);
-      continue;
-    }
-    const bool coded = text.compare(i, 3, "\\x{") == 0;
-    const unsigned long unit = coded ? read_braced(text, i += 2, 16)
-                                     : static_cast<unsigned char>(text[i++]);
-    units.append(times, static_cast<wchar_t>(unit));
-    times = 1;
-  }
-  return units;
 }
 
 }  // namespace
@@ -60,7 +36,7 @@ std::vector<Case> read_cases(const std::string& file, const CaseNames& names) {
       std::string input = frame;
       replace_all(input, "@", line.substr(0, arrow));
       for (const auto& [name, text] : names) replace_all(input, name, text);
-      cases.push_back({rule + line, read_units(input), line.substr(arrow + 4)});
+      cases.push_back({rule + line, units_of(input), line.substr(arrow + 4)});
     }
   }
   return cases;

@@ -5,8 +5,7 @@
 //   > text@more       where the inputs below stand, until the next such line
 //   input => wanted
 //
-// Text is wide: "\x{1F600}" is a unit, "\*{40}" means 40 of the unit behind it,
-// and "$name" is a text from `names`.
+// Inputs are read as units_of reads them; "$name" is a text from `names`.
 #ifndef KORVANE_TEST_UNIT_CASE_FILE_H_
 #define KORVANE_TEST_UNIT_CASE_FILE_H_
 

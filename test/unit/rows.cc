@@ -2,47 +2,64 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "text/utf8.h"
 
 namespace {
 
-// Takes one field off the start of `line`.
-std::wstring take_field(std::wstring_view& line) {
-  const bool is_quoted = line.front() == L'"';
-  if (is_quoted) line.remove_prefix(1);
-  const std::size_t end = line.find(is_quoted ? L'"' : L' ');
-  std::wstring_view text = line.substr(0, end);
-  line.remove_prefix(text.size() + (end == std::wstring_view::npos ? 0 : 1));
-  line.remove_prefix(std::min(line.find_first_not_of(L' '), line.size()));
-  std::wstring field;
-  for (std::size_t escape; (escape = text.find(L"\\x")) < text.size();) {
-    const std::size_t semicolon = text.find(L';', escape);
-    const std::wstring code(text.substr(escape + 2, semicolon - escape - 2));
-    field += text.substr(0, escape);
-    field += static_cast<wchar_t>(std::stoul(code, nullptr, 16));
-    text.remove_prefix(semicolon + 1);
-  }
-  return field.append(text);
+// Reads what stands in braces at `position` and moves past it.
+unsigned long take_braced(const std::wstring& text, std::size_t& position,
+                          int base) {
+  const unsigned long braced =
+      std::stoul(text.substr(position + 1), nullptr, base);
+  position = text.find(L'}', position) + 1;
+  return braced;
 }
 
-Row row_of(const std::string& line) {
-  std::wstring wide;
-  EXPECT_TRUE(qk::text::decode_utf8(line, wide)) << line;
+// Takes one field off the start of `line`.
+std::wstring take_field(std::string_view& line) {
+  const bool is_quoted = line.front() == '"';
+  if (is_quoted) line.remove_prefix(1);
+  const std::string_view field =
+      line.substr(0, line.find(is_quoted ? '"' : ' '));
+  line.remove_prefix(std::min(field.size() + 1, line.size()));
+  line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+  return units_of(std::string(field));
+}
+
+Row row_of(std::string_view line) {
   Row row;
-  for (std::wstring_view rest = wide; !rest.empty();) {
-    row.push_back(take_field(rest));
-  }
+  while (!line.empty()) row.push_back(take_field(line));
   return row;
 }
 
 }  // namespace
 
+std::wstring units_of(const std::string& text) {
+  std::wstring source;
+  EXPECT_TRUE(qk::text::decode_utf8(text, source)) << text;
+  std::wstring units;
+  unsigned long times = 1;
+  for (std::size_t i = 0; i < source.size();) {
+    if (source.compare(i, 3, L"\\*{") == 0) {
+      times = take_braced(source, i += 2, 10);
+      continue;
+    }
+    const bool coded = source.compare(i, 3, L"\\x{") == 0;
+    units.append(times,
+                 coded ? static_cast<wchar_t>(take_braced(source, i += 2, 16))
+                       : source[i++]);
+    times = 1;
+  }
+  return units;
+}
+
 std::vector<Row> rows_of(std::string_view table) {
   std::vector<Row> rows;
-  for (const char* file : {"/text.txt", "/url.txt"}) {
-    std::ifstream lines(std::string(TEST_ROWS) + file);
+  for (const char* file : {"/text_rows.txt", "/url_rows.txt"}) {
+    std::ifstream lines(std::string(TEST_DATA) + file);
     bool is_inside = false;
     for (std::string line; std::getline(lines, line);) {
       if (line.empty() || line.front() == '#') continue;
