@@ -31,7 +31,6 @@ const std::wstring kHash = L"0123456789ABCDEF0123456789ABCDEF";
 const std::wstring kRoot = L"AERUKZ4JVPG66AJDIVTYTK6N54ASGRLH";
 const std::wstring kLink = L"ed2k://|file|a.bin|100|" + kHash + L"|/";
 constexpr char kHashText[] = "0123456789ABCDEF0123456789ABCDEF";
-constexpr char kRootText[] = "0123456789ABCDEF0123456789ABCDEF01234567";
 const std::string kNoRoot(40, '0');
 // NOLINTEND(cert-err58-cpp)
 
