@@ -243,7 +243,6 @@ void clean_name(Iterator begin, Iterator end) {
 // escape or beyond ASCII, and those that decode to nothing.
 std::wstring_view decode_name(std::wstring_view name, ScratchText& scratch) {
   if (name.find(L'%') == std::wstring_view::npos || !is_ascii(name)) return {};
-  name = until_zero(name);
   wchar_t* units = scratch.reserve(name.size());
   const wchar_t* end = percent_decode(name, units);
   const std::wstring_view decoded = until_zero(

@@ -220,6 +220,7 @@ TEST(Encoders, DecodeUrlKeepsWhatIsNoEscape) {
        "\xE4"
        "A\xFF"},
       {"a+b", "a+b"},
+      {"longer than what was there %21", "longer than what was there !"},
   };
   for (const auto& test : kCases) {
     EXPECT_EQ(decoded(decode_url, test.in, "old text"),
