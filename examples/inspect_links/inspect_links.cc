@@ -71,7 +71,9 @@ v8::Local<v8::String> script_text(v8::Isolate* isolate,
   units.reserve(text.size());
   for (const wchar_t character : text) {
     const auto code = static_cast<std::uint32_t>(character);
-    if (code > 0xFFFF) {
+    if (code > 0x10FFFF) {
+      units += u'\uFFFD';
+    } else if (code > 0xFFFF) {
       units += static_cast<char16_t>(0xD7C0 + (code >> 10));
       units += static_cast<char16_t>(0xDC00 + (code & 0x3FF));
     } else {
@@ -214,7 +216,8 @@ void inspect(std::wstring_view link, Report& report) {
 }
 
 void attach_function(const Arguments& arguments) {
-  arguments.GetReturnValue().Set(attach(*v8::String::Utf8Value(arguments[0])));
+  const v8::String::Utf8Value path(arguments[0]);
+  arguments.GetReturnValue().Set(*path != nullptr && attach(*path));
 }
 
 void inspect_function(const Arguments& arguments) {

@@ -339,8 +339,10 @@ struct ed2k_file_link::all_fields {
 };
 
 bool ed2k_file_link::create_from_ed2k_url(const std::wstring& url) {
+  // `url` may be a member of this object, which is written field by field.
+  const std::wstring link = url;
   all_fields fields{*this, {}};
-  return read_link(url, fields);
+  return read_link(link, fields);
 }
 
 long parse_ed2k_url_u(const wchar_t* url, size_t length,

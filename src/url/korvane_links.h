@@ -6,7 +6,8 @@
  *    except where a function says so. A pointer to text is not null, even with
  *    a length of 0, unless a code for it is stated.
  * 2. Every buffer and record belongs to the caller. Nothing that is returned
- *    needs to be freed; nothing that is passed is kept.
+ *    needs to be freed; nothing that is passed is kept. Outputs do not overlap
+ *    inputs.
  * 3. A function that fails leaves its outputs as they were, except where it
  *    says otherwise. On success the units of an array beyond its length stay
  *    as they were too.

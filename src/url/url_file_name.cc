@@ -51,7 +51,10 @@ std::wstring_view cut_name(std::wstring_view text) {
   if (query == kNowhere) return last_segment(text);
   // Kept: the "?" itself stays, and becomes the name's last "_".
   text = text.substr(0, query + 1);
-  const std::wstring_view name = behind(text, file_position(text));
+  const std::size_t separator = file_position(text);
+  // Without a separator the text is the name, "&" and all.
+  if (separator == kNowhere) return text;
+  const std::wstring_view name = text.substr(separator + 1);
   return name.substr(0, name.find(L'&'));
 }
 

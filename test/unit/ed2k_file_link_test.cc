@@ -510,4 +510,17 @@ TEST(Ed2kLink, ReadsManyFieldsInOnePass) {
   EXPECT_TRUE(Parsed(link_with(repeated(L"="))).valid);
 }
 
+TEST(Ed2kLink, ReadsItsOwnMembers) {
+  const std::wstring text =
+      L"ed2k://|file|long%20name.bin|100|0123456789ABCDEF0123456789ABCDEF|"
+      L"s=zzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzz|/";
+  std::wstring name = text;
+  ed2k_file_link link(name, 0, {});
+  EXPECT_TRUE(link.create_from_ed2k_url(link.get_file_name()));
+  EXPECT_EQ(link.get_file_name(), L"long name.bin");
+  link.set_http_url(text);
+  EXPECT_TRUE(link.create_from_ed2k_url(link.get_http_url()));
+  EXPECT_EQ(link.get_file_name(), L"long name.bin");
+}
+
 }  // namespace
