@@ -1,0 +1,163 @@
+'use strict';
+
+// The loader in packages and checkouts that fit the runtime and that do not,
+// each in a process of its own.
+
+const fs = require('fs');
+const os = require('os');
+const path = require('path');
+const { execFileSync } = require('child_process');
+const { assert, helper, test } = require('../script/harness');
+
+const built = path.dirname(process.env.KORVANE_MODULE);
+const newer = process.env.KORVANE_OTHER_RUNTIME;
+const count = Object.keys(helper).length;
+const here = `linux-${process.arch}`;
+const otherArchitecture = process.arch === 'x64' ? 'arm64' : 'x64';
+const own = `interface-${process.versions.modules}`;
+const prebuilt = `prebuilds/${here}/${own}`;
+
+const root = fs.mkdtempSync(path.join(os.tmpdir(), 'loader-'));
+process.on('exit', () => execFileSync('rm', ['-r', root]));
+
+const print = (code) => execFileSync(newer, ['-p', code],
+  { encoding: 'utf8' }).trim();
+const newerVersion = print('process.version');
+const newerInterface = `interface-${print('process.versions.modules')}`;
+
+// A folder with the loader and, in each of `places`, the module and the host
+// library; a place is a path, or [path, change] for a module whose bytes
+// `change` alters.
+function install(...places) {
+  const folder = fs.mkdtempSync(path.join(root, 'package-'));
+  fs.copyFileSync(path.join(__dirname, '../../index.js'),
+    path.join(folder, 'index.js'));
+  for (const place of places) {
+    const [name, change] = [].concat(place);
+    const target = path.join(folder, name);
+    execFileSync('mkdir', ['-p', target]);
+    for (const file of fs.readdirSync(built)) {
+      fs.copyFileSync(path.join(built, file), path.join(target, file));
+    }
+    if (change) change(target);
+  }
+  return folder;
+}
+
+const edit = (change) => (folder) => {
+  const file = path.join(folder, 'KorvaneHelper.node');
+  fs.writeFileSync(file, change(fs.readFileSync(file)));
+};
+const replace = (from, to) => edit((bytes) => (
+  Buffer.from(bytes.toString('latin1').split(from).join(to), 'latin1')));
+const machine = (number) => edit((bytes) => {
+  bytes.writeUInt16LE(number, 18);
+  return bytes;
+});
+const withoutHost = (folder) => (
+  fs.unlinkSync(path.join(folder, 'libkorvane_host.so')));
+
+// What requiring a folder gives: a count of functions, or the error's text.
+function load(folder, { runtime = process.execPath, launcher = [],
+  before = '', env = process.env } = {}) {
+  const code = `${before}
+    let said;
+    try {
+      said = Object.keys(require(${JSON.stringify(folder)})).length;
+    } catch (error) {
+      said = error.message;
+    }
+    console.log(String(said));`;
+  const [command, ...args] = [...launcher, runtime, '-e', code];
+  return execFileSync(command, args, { encoding: 'utf8', env }).trim();
+}
+
+function says(folder, options, problem, there) {
+  const { target = here, wanted = own, version = process.version,
+    library = /glibc \d\.\d+/ } = options;
+  const lines = load(folder, options).split('\n');
+  const library_ = lines[1].replace(/.*C library /, '');
+  assert(library_.match(library), library_);
+  assert.deepStrictEqual(lines, [
+    `KorvaneHelper cannot be loaded: ${problem}`,
+    `  wanted: ${target} ${wanted} (Node.js ${version}), ` +
+      `C library ${library_}`,
+    `  there is: ${there}`,
+    '  to build it, in a checkout: script/bootstrap && ' +
+      'cmake --preset release && cmake --build --preset release',
+  ]);
+}
+
+const none = 'no module is built for this runtime';
+const other = { runtime: newer, wanted: newerInterface, version: newerVersion };
+
+test('a package and a checkout load', () => {
+  assert.strictEqual(load(install(prebuilt)), `${count}`);
+  assert.strictEqual(load(install('build/release/module')), `${count}`);
+});
+
+test('a prebuilt module comes before a built one', () => {
+  const damaged = edit(() => Buffer.alloc(0));
+  const folder = install(prebuilt, ['build/release/module', damaged]);
+  assert.strictEqual(load(folder), `${count}`);
+});
+
+test('without a module for the runtime, those that are there are named', () => {
+  says(install(), {}, none, 'none');
+  says(install(prebuilt), other, none, `${here} ${own}`);
+  says(install('prebuilds/linux-arm64/interface-64', 'prebuilds/other',
+    'prebuilds/linux-arm64/interface-57'), {}, none,
+  'linux-arm64 interface-57, linux-arm64 interface-64');
+  says(install(prebuilt), {
+    target: `linux-${otherArchitecture}`,
+    before: `Object.defineProperty(process, 'arch',
+      { value: '${otherArchitecture}' });`,
+  }, none, `${here} ${own}`);
+});
+
+test('a module that cannot be loaded is named, and why', () => {
+  const cases = [
+    [machine(process.arch === 'x64' ? 183 : 62),
+      `it is built for ${otherArchitecture}`],
+    [machine(8), 'it is built for ELF machine 8'],
+    [edit((bytes) => bytes.slice(0, 19)), 'it is damaged'],
+    [edit(() => Buffer.from('<html>not what was asked for</html>')),
+      'it is damaged'],
+    [replace('GLIBC_2.14', 'GLIBC_2.99'), 'it needs GLIBC 2.99'],
+    [replace('node_module_register', 'node_module_registeR'),
+      'it is built for another runtime', { LD_BIND_NOW: '1' }],
+    [withoutHost, 'the host library libkorvane_host.so is missing: ' +
+      'it belongs beside the module'],
+  ];
+  for (const [change, problem, variables] of cases) {
+    const folder = install([prebuilt, change]);
+    says(folder, { env: Object.assign({}, process.env, variables) }, problem,
+      path.join(folder, prebuilt, 'KorvaneHelper.node'));
+  }
+});
+
+test('a checkout that was built for another runtime says so', () => {
+  const folder = install('build/release/module');
+  says(folder, other, `it is built for ${own}`,
+    path.join(folder, 'build/release/module/KorvaneHelper.node'));
+});
+
+test('a missing libX11 is named, with the package that brings it', () => {
+  const folder = install(prebuilt);
+  const hidden = path.join(__dirname, '../support/without_library');
+  says(folder, { launcher: [hidden, 'libX11'] },
+    'libX11 is missing: apt-get install libx11-6',
+    path.join(folder, prebuilt, 'KorvaneHelper.node'));
+});
+
+test('a C library that does not tell its version is named as far as known',
+  () => {
+    const folder = install();
+    const bin = path.join(folder, 'bin');
+    fs.mkdirSync(bin);
+    const env = Object.assign({}, process.env, { PATH: bin });
+    says(folder, { env, library: /^unknown$/ }, none, 'none');
+    fs.writeFileSync(path.join(bin, 'getconf'), '#!/bin/sh\nexit 1\n',
+      { mode: 0o755 });
+    says(folder, { env, library: /^not glibc$/ }, none, 'none');
+  });
