@@ -4,12 +4,12 @@
 // each in a process of its own.
 
 const fs = require('fs');
-const os = require('os');
 const path = require('path');
 const { execFileSync } = require('child_process');
 const { assert, helper, test } = require('../script/harness');
+const { copyModule, edit, makeFolder, remove, replace, setMachine } =
+  require('./copies');
 
-const built = path.dirname(process.env.KORVANE_MODULE);
 const newer = process.env.KORVANE_OTHER_RUNTIME;
 const count = Object.keys(helper).length;
 const here = `linux-${process.arch}`;
@@ -17,45 +17,23 @@ const otherArchitecture = process.arch === 'x64' ? 'arm64' : 'x64';
 const own = `interface-${process.versions.modules}`;
 const prebuilt = `prebuilds/${here}/${own}`;
 
-const root = fs.mkdtempSync(path.join(os.tmpdir(), 'loader-'));
-process.on('exit', () => execFileSync('rm', ['-r', root]));
-
 const print = (code) => execFileSync(newer, ['-p', code],
   { encoding: 'utf8' }).trim();
 const newerVersion = print('process.version');
 const newerInterface = `interface-${print('process.versions.modules')}`;
 
 // A folder with the loader and, in each of `places`, the module and the host
-// library; a place is a path, or [path, change] for a module whose bytes
-// `change` alters.
+// library; a place is a path, or [path, change] for an altered module.
 function install(...places) {
-  const folder = fs.mkdtempSync(path.join(root, 'package-'));
+  const folder = makeFolder();
   fs.copyFileSync(path.join(__dirname, '../../index.js'),
     path.join(folder, 'index.js'));
   for (const place of places) {
     const [name, change] = [].concat(place);
-    const target = path.join(folder, name);
-    execFileSync('mkdir', ['-p', target]);
-    for (const file of fs.readdirSync(built)) {
-      fs.copyFileSync(path.join(built, file), path.join(target, file));
-    }
-    if (change) change(target);
+    copyModule(path.join(folder, name), change);
   }
   return folder;
 }
-
-const edit = (change) => (folder) => {
-  const file = path.join(folder, 'KorvaneHelper.node');
-  fs.writeFileSync(file, change(fs.readFileSync(file)));
-};
-const replace = (from, to) => edit((bytes) => (
-  Buffer.from(bytes.toString('latin1').split(from).join(to), 'latin1')));
-const machine = (number) => edit((bytes) => {
-  bytes.writeUInt16LE(number, 18);
-  return bytes;
-});
-const withoutHost = (folder) => (
-  fs.unlinkSync(path.join(folder, 'libkorvane_host.so')));
 
 // What requiring a folder gives: a count of functions, or the error's text.
 function load(folder, { runtime = process.execPath, launcher = [],
@@ -117,16 +95,17 @@ test('without a module for the runtime, those that are there are named', () => {
 
 test('a module that cannot be loaded is named, and why', () => {
   const cases = [
-    [machine(process.arch === 'x64' ? 183 : 62),
+    [setMachine(process.arch === 'x64' ? 183 : 62),
       `it is built for ${otherArchitecture}`],
-    [machine(8), 'it is built for ELF machine 8'],
+    [setMachine(8), 'it is built for ELF machine 8'],
     [edit((bytes) => bytes.slice(0, 19)), 'it is damaged'],
     [edit(() => Buffer.from('<html>not what was asked for</html>')),
       'it is damaged'],
     [replace('GLIBC_2.14', 'GLIBC_2.99'), 'it needs GLIBC 2.99'],
     [replace('node_module_register', 'node_module_registeR'),
       'it is built for another runtime', { LD_BIND_NOW: '1' }],
-    [withoutHost, 'the host library libkorvane_host.so is missing: ' +
+    [remove('libkorvane_host.so'),
+      'the host library libkorvane_host.so is missing: ' +
       'it belongs beside the module'],
   ];
   for (const [change, problem, variables] of cases) {
