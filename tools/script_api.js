@@ -42,7 +42,8 @@ function render({ about, functions }) {
     about, '',
     `Of the ${functions.length} functions ${working.length} work, ` +
       `${constant.length} give one answer to every call, and ` +
-      `${nothing.length} do nothing.`, '',
+      `${nothing.length} do nothing. What may surprise in some of them is ` +
+      'in [known-behaviours.md](known-behaviours.md).', '',
     '## Functions that work', '',
     ...[].concat(...working.map(section)),
     '## Functions with one answer', '',
