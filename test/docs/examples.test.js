@@ -35,11 +35,8 @@ function installLinks() {
   const prefix = makeFolder();
   execFileSync('cmake',
     ['--install', process.env.KORVANE_BUILD, '--prefix', prefix]);
-  const find = (name) => execFileSync('find', [prefix, '-name', name],
+  const file = execFileSync('find', [prefix, '-name', 'korvane_links.pc'],
     { encoding: 'utf8' }).trim();
-  const file = find('korvane_links.pc');
-  fs.writeFileSync(file, fs.readFileSync(file, 'utf8')
-    .replace(/^prefix=.*/m, `prefix=${prefix}`));
   return { PKG_CONFIG_PATH: path.dirname(file), CMAKE_PREFIX_PATH: prefix };
 }
 

@@ -11,9 +11,10 @@ const { copy, copyModule, makeFolder, replace, setMachine } =
 
 const sources = path.join(__dirname, '../..');
 const build = process.env.KORVANE_BUILD;
-const promised = /glibc ([\d.]+\d)/.exec(
-  fs.readFileSync(path.join(sources, 'README.md'), 'utf8'))[1];
-const [, minor] = promised.split('.').map(Number);
+const readme = fs.readFileSync(path.join(sources, 'README.md'), 'utf8');
+const [, glibc] = /glibc ([\d.]*\d)/.exec(readme);
+const [, glibcxx] = /GLIBCXX ([\d.]*\d)/.exec(readme);
+const next = (version) => version.replace(/\d+$/, (last) => Number(last) + 1);
 
 // A build folder whose module is altered.
 function makeBuild(change) {
@@ -47,10 +48,14 @@ test('modules that are not fit for shipping are refused', () => {
     [setMachine(183, 'libkorvane_host.so'),
       'BUILD/module/libkorvane_host.so is for AArch64, not x64'],
     [riscv, 'BUILD is for riscv64'],
-    [replace('GLIBC_2.14', `GLIBC_2.${minor + 1}`),
-      `BUILD/module/KorvaneHelper.node needs glibc 2.${minor + 1}, ` +
-      `README.md promises ${promised}`],
-    [replace('GLIBC_2.14', `GLIBC_2.${minor}`)],
+    [replace('GLIBC_2.14', `GLIBC_${next(glibc)}`),
+      `BUILD/module/KorvaneHelper.node needs GLIBC ${next(glibc)}, ` +
+      `README.md promises ${glibc}`],
+    [replace('GLIBC_2.14', `GLIBC_${glibc}`)],
+    [replace('GLIBCXX_3.4.21', `GLIBCXX_${next(glibcxx)}`),
+      `BUILD/module/KorvaneHelper.node needs GLIBCXX ${next(glibcxx)}, ` +
+      `README.md promises ${glibcxx}`],
+    [replace('GLIBCXX_3.4.21', `GLIBCXX_${glibcxx}`)],
     [replace('parse_url_u\0', 'parse_url_x\0'),
       'BUILD/module/KorvaneHelper.node exports parse_url_x'],
   ];
