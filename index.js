@@ -14,8 +14,11 @@ const target = `${process.platform}-${process.arch}`;
 const wanted = `interface-${process.versions.modules}`;
 const prebuilds = path.join(__dirname, 'prebuilds');
 
+const [major] = process.versions.node.split('.');
+
 const candidates = [
   path.join(prebuilds, target, wanted, NAME),
+  path.join(__dirname, 'build', `runtime-${major}`, 'module', NAME),
   path.join(__dirname, 'build', 'release', 'module', NAME),
 ];
 

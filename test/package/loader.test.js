@@ -69,15 +69,16 @@ function says(folder, options, problem, there) {
 const none = 'no module is built for this runtime';
 const other = { runtime: newer, wanted: newerInterface, version: newerVersion };
 
-test('a package and a checkout load', () => {
-  assert.strictEqual(load(install(prebuilt)), `${count}`);
-  assert.strictEqual(load(install('build/release/module')), `${count}`);
-});
-
-test('a prebuilt module comes before a built one', () => {
+test('a prebuilt module comes before one built for the runtime, and that ' +
+  'before the product\'s', () => {
   const damaged = edit(() => Buffer.alloc(0));
-  const folder = install(prebuilt, ['build/release/module', damaged]);
-  assert.strictEqual(load(folder), `${count}`);
+  const [major] = process.versions.node.split('.');
+  const places = [prebuilt, `build/runtime-${major}/module`,
+    'build/release/module'];
+  places.forEach((place, index) => {
+    const later = places.slice(index + 1).map((name) => [name, damaged]);
+    assert.strictEqual(load(install(place, ...later)), `${count}`, place);
+  });
 });
 
 test('without a module for the runtime, those that are there are named', () => {
