@@ -37,13 +37,13 @@ function install(...places) {
 
 // What requiring a folder gives: a count of functions, or the error's text.
 function load(folder, { runtime = process.execPath, launcher = [],
-  before = '', env = process.env } = {}) {
+  before = '', env = process.env, part = 'error.message' } = {}) {
   const code = `${before}
     let said;
     try {
       said = Object.keys(require(${JSON.stringify(folder)})).length;
     } catch (error) {
-      said = error.message;
+      said = ${part};
     }
     console.log(String(said));`;
   const [command, ...args] = [...launcher, runtime, '-e', code];
@@ -114,6 +114,14 @@ test('a module that cannot be loaded is named, and why', () => {
     says(folder, { env: Object.assign({}, process.env, variables) }, problem,
       path.join(folder, prebuilt, 'KorvaneHelper.node'));
   }
+});
+
+test('what else the dynamic loader says is passed on', () => {
+  const folder = install([prebuilt, edit((bytes) => bytes.slice(0, 20))]);
+  const file = path.join(folder, prebuilt, 'KorvaneHelper.node');
+  says(folder, {}, `${file}: file too short`, file);
+  assert.strictEqual(load(folder, { part: 'error.cause.message' }),
+    `${file}: file too short`);
 });
 
 test('a checkout that was built for another runtime says so', () => {
