@@ -21,7 +21,7 @@ if(KORVANE_MODULE)
   set(CPACK_DEBIAN_MODULE_PACKAGE_NAME korvane-helper)
   set(CPACK_DEBIAN_MODULE_PACKAGE_SECTION javascript)
   set(CPACK_DEBIAN_MODULE_PACKAGE_DEPENDS
-    "libc6 (>= 2.28), libgcc-s1, libstdc++6 (>= 8), libx11-6")
+    "libc6 (>= 2.28), libgcc-s1, libstdc++6 (>= 11), libx11-6")
   set(CPACK_DEBIAN_MODULE_DESCRIPTION
     "Native module behind the script interface of a download manager")
   install(FILES LICENSE RENAME copyright

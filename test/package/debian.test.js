@@ -24,7 +24,7 @@ test('the packages are named, and name what they need', () => {
       .map((name) => path.basename(name)));
   const needs = (name) => run('dpkg-deb', ['-f', file(name), 'Depends']).trim();
   assert.strictEqual(needs('korvane-helper'),
-    'libc6 (>= 2.28), libgcc-s1, libstdc++6 (>= 8), libx11-6');
+    'libc6 (>= 2.28), libgcc-s1, libstdc++6 (>= 11), libx11-6');
   assert.strictEqual(needs('libkorvane-links-dev'),
     'libc6-dev, libstdc++-dev');
 });
