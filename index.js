@@ -80,14 +80,18 @@ function explain(file, message) {
   return message;
 }
 
+const command = major === '8'
+  ? 'script/bootstrap && cmake --preset release && ' +
+    'cmake --build --preset release'
+  : `script/test --runtime ${major}`;
+
 function failure(problem, there, cause) {
   const error = new Error([
     `KorvaneHelper cannot be loaded: ${problem}`,
     `  wanted: ${target} ${wanted} (Node.js ${process.version}), ` +
       `C library ${cLibrary()}`,
     `  there is: ${there}`,
-    '  to build it, in a checkout: script/bootstrap && ' +
-      'cmake --preset release && cmake --build --preset release',
+    `  to build it, in a checkout: ${command}`,
   ].join('\n'));
   return Object.assign(error, { cause });
 }

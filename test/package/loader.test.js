@@ -52,7 +52,9 @@ function load(folder, { runtime = process.execPath, launcher = [],
 
 function says(folder, options, problem, there) {
   const { target = here, wanted = own, version = process.version,
-    library = /glibc \d\.\d+/ } = options;
+    library = /glibc \d\.\d+/,
+    command = 'script/bootstrap && cmake --preset release && ' +
+      'cmake --build --preset release' } = options;
   const lines = load(folder, options).split('\n');
   const library_ = lines[1].replace(/.*C library /, '');
   assert(library_.match(library), library_);
@@ -61,13 +63,13 @@ function says(folder, options, problem, there) {
     `  wanted: ${target} ${wanted} (Node.js ${version}), ` +
       `C library ${library_}`,
     `  there is: ${there}`,
-    '  to build it, in a checkout: script/bootstrap && ' +
-      'cmake --preset release && cmake --build --preset release',
+    `  to build it, in a checkout: ${command}`,
   ]);
 }
 
 const none = 'no module is built for this runtime';
-const other = { runtime: newer, wanted: newerInterface, version: newerVersion };
+const other = { runtime: newer, wanted: newerInterface, version: newerVersion,
+  command: `script/test --runtime ${/\d+/.exec(newerVersion)}` };
 
 test('a prebuilt module comes before one built for the runtime, and that ' +
   'before the product\'s', () => {
