@@ -24,7 +24,8 @@ const candidates = [
 
 function listFolder(folder) {
   try {
-    return fs.readdirSync(folder).sort();
+    return fs.readdirSync(folder)
+      .sort((a, b) => a.localeCompare(b, 'en', { numeric: true }));
   } catch (error) {
     return [];
   }

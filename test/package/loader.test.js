@@ -86,9 +86,9 @@ test('a prebuilt module comes before one built for the runtime, and that ' +
 test('without a module for the runtime, those that are there are named', () => {
   says(install(), {}, none, 'none');
   says(install(prebuilt), other, none, `${here} ${own}`);
-  says(install('prebuilds/linux-arm64/interface-64', 'prebuilds/other',
+  says(install('prebuilds/linux-arm64/interface-115', 'prebuilds/other',
     'prebuilds/linux-arm64/interface-57'), {}, none,
-  'linux-arm64 interface-57, linux-arm64 interface-64');
+  'linux-arm64 interface-57, linux-arm64 interface-115');
   says(install(prebuilt), {
     target: `linux-${otherArchitecture}`,
     before: `Object.defineProperty(process, 'arch',
