@@ -2,7 +2,7 @@
 
 #include <X11/Xlib.h>
 
-int DPIInterface::s_default_dpi = 96;
+std::atomic<int> DPIInterface::s_default_dpi = 96;
 
 double DPIInterface::GetMonitorDPIFactor() {
   constexpr double kMillimetresPerInch = 25.4;

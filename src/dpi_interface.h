@@ -2,6 +2,8 @@
 #ifndef KORVANE_DPI_INTERFACE_H_
 #define KORVANE_DPI_INTERFACE_H_
 
+#include <atomic>
+
 class DPIInterface {
  public:
   // The default screen's dots per inch, across, divided by the reference DPI,
@@ -21,7 +23,8 @@ class DPIInterface {
   static void SetDefaultDPI(int dpi);
 
  private:
-  static int s_default_dpi;
+  // Script threads share it where a runtime has several.
+  static std::atomic<int> s_default_dpi;
 };
 
 #endif  // KORVANE_DPI_INTERFACE_H_

@@ -166,18 +166,53 @@ const KorvaneHelper::Export KorvaneHelper::kExports[kExportCount] = {
     {"trackEvent", TrackEvent},
 };
 
+// One registration: a function template with the defaults, its function, and
+// that function's name and property. A registration that fails leaves its name
+// out, and none stops the others: a script may have put setters that throw, or
+// a stop to everything, in the way.
+static void set_method(v8::Local<v8::Object> exports,
+                       const KorvaneHelper::Export& row) {
+  v8::Isolate* isolate = v8::Isolate::GetCurrent();
+  const v8::HandleScope scope(isolate);
+  const ScriptGuard guard(isolate);
+  const v8::Local<v8::Context> context = isolate->GetCurrentContext();
+  const auto from = v8::FunctionTemplate::New(isolate, row.function);
+  v8::Local<v8::Function> function;
+  v8::Local<v8::String> name;
+  if (!from->GetFunction(context).ToLocal(&function) ||
+      !v8::String::NewFromUtf8(isolate, row.name, v8::NewStringType::kNormal)
+           .ToLocal(&name)) {
+    return;
+  }
+  function->SetName(name);
+  exports->Set(context, name, function).FromMaybe(false);
+}
+
+void KorvaneHelper::Register(v8::Local<v8::Object> exports) {
+  for (const Export& row : kExports) set_method(exports, row);
+}
+
 extern "C" {
 
 static void init(v8::Local<v8::Object> exports, v8::Local<v8::Value>, void*) {
-  for (const KorvaneHelper::Export& row : KorvaneHelper::kExports) {
-    NODE_SET_METHOD(exports, row.name, row.function);
-  }
+  KorvaneHelper::Register(exports);
+}
+
+static void init_in_context(v8::Local<v8::Object> exports, v8::Local<v8::Value>,
+                            v8::Local<v8::Context>, void*) {
+  KorvaneHelper::Register(exports);
 }
 
 static node::node_module _module = {
-    NODE_MODULE_VERSION,     0,       nullptr,
-    "../src/korvane_helper", init,    nullptr,
-    "KorvaneHelper",         nullptr, nullptr,
+    NODE_MODULE_VERSION,
+    0,
+    nullptr,
+    "../src/korvane_helper",
+    init,
+    runtime_port::kHasWorkers ? init_in_context : nullptr,
+    "KorvaneHelper",
+    nullptr,
+    nullptr,
 };
 
 __attribute__((constructor)) static void _register_KorvaneHelper() {

@@ -25,6 +25,10 @@ class KorvaneHelper {
   // In registration order.
   static const Export kExports[kExportCount];
 
+  // Sets one function a row on `exports`. Throws nothing, and keeps no state:
+  // every script thread may have its own.
+  static void Register(v8::Local<v8::Object> exports);
+
   // --- Shell, processes and files (korvane_helper_shell.cc)
 
   // Runs a shell command (text, cut after 1,023 bytes) and answers the first

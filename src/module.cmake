@@ -1,10 +1,4 @@
 # KorvaneHelper.node: the script functions, and the link library carried whole.
-if(NOT EXISTS ${KORVANE_NODE_DIR}/include/node/node.h)
-  message(FATAL_ERROR
-    "No runtime headers in KORVANE_NODE_DIR=${KORVANE_NODE_DIR}: "
-    "run 'npm ci', or name a folder that holds include/node/node.h")
-endif()
-
 add_layer(korvane_machine linux_shell.cc)
 add_layer(korvane_display dpi_interface.cc x_window.cc)
 target_link_libraries(korvane_display PUBLIC X11::X11)
@@ -20,8 +14,7 @@ add_library(korvane_script OBJECT
   korvane_helper_window.cc
   script_values.cc)
 target_include_directories(korvane_script PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
-target_include_directories(korvane_script SYSTEM PUBLIC
-  ${KORVANE_NODE_DIR}/include/node)
+target_link_libraries(korvane_script PUBLIC script_runtime)
 target_compile_definitions(korvane_script PRIVATE
   KORVANE_CLIPBOARD_LINK=L"${KORVANE_CLIPBOARD_LINK}")
 
@@ -31,10 +24,12 @@ add_library(KorvaneHelper MODULE korvane_helper.cc
   $<TARGET_OBJECTS:korvane_machine>
   $<TARGET_OBJECTS:korvane_display>
   $<TARGET_OBJECTS:korvane_script>)
+if(RUNTIME_INTERFACE GREATER 57)
+  target_sources(KorvaneHelper PRIVATE worker_entry.cc)
+endif()
 target_include_directories(KorvaneHelper PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
-target_include_directories(KorvaneHelper SYSTEM PRIVATE
-  ${KORVANE_NODE_DIR}/include/node)
-target_link_libraries(KorvaneHelper PRIVATE korvane_host X11::X11)
+target_link_libraries(KorvaneHelper PRIVATE
+  korvane_host script_runtime X11::X11)
 set(KORVANE_HELPER_MAP ${CMAKE_CURRENT_SOURCE_DIR}/korvane_helper.map)
 target_link_options(KorvaneHelper PRIVATE
   -Wl,--version-script=${KORVANE_HELPER_MAP} -Wl,-Bsymbolic-functions)

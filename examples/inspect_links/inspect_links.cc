@@ -4,13 +4,14 @@
 //   attach(path)   finds the functions in the loaded module; false if it cannot
 //   inspect(link)  {kind, ...fields} for a link, {error} for any other text
 #include <dlfcn.h>
-#include <node.h>
 
 #include <algorithm>
+#include <climits>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "runtime_port.h"
 #include "url/korvane_links.h"
 
 namespace {
@@ -47,13 +48,14 @@ bool attach(const char* path) {
 
 // --- Texts: 16-bit units on the script's side, characters on the library's
 
-std::wstring wide_text(const v8::Local<v8::Value>& value) {
-  const v8::String::Value units(value);
+std::wstring wide_text(v8::Isolate* isolate, v8::Local<v8::Value> value) {
+  const runtime_port::Utf16Text text(isolate, value);
+  const std::uint16_t* units = text.units();
   std::wstring wide;
-  wide.reserve(static_cast<std::size_t>(units.length()));
-  for (int i = 0; i < units.length(); ++i) {
-    const std::uint32_t unit = (*units)[i];
-    const std::uint32_t next = i + 1 < units.length() ? (*units)[i + 1] : 0;
+  wide.reserve(text.length());
+  for (std::size_t i = 0; i < text.length(); ++i) {
+    const std::uint32_t unit = units[i];
+    const std::uint32_t next = i + 1 < text.length() ? units[i + 1] : 0;
     if (unit >> 10 == 0x36 && next >> 10 == 0x37) {
       wide += static_cast<wchar_t>(0x10000 + ((unit & 0x3FF) << 10) +
                                    (next & 0x3FF));
@@ -216,13 +218,16 @@ void inspect(std::wstring_view link, Report& report) {
 }
 
 void attach_function(const Arguments& arguments) {
-  const v8::String::Utf8Value path(arguments[0]);
-  arguments.GetReturnValue().Set(*path != nullptr && attach(*path));
+  if (!arguments[0]->IsString()) return;
+  char path[PATH_MAX] = {};
+  runtime_port::write_utf8(arguments.GetIsolate(),
+                           arguments[0].As<v8::String>(), path, PATH_MAX - 1);
+  arguments.GetReturnValue().Set(attach(path));
 }
 
 void inspect_function(const Arguments& arguments) {
   Report report(arguments.GetIsolate());
-  inspect(wide_text(arguments[0]), report);
+  inspect(wide_text(arguments.GetIsolate(), arguments[0]), report);
   arguments.GetReturnValue().Set(report.object());
 }
 

@@ -28,7 +28,8 @@ std::vector<Value> read_list(const v8::Local<v8::Value>& list) {
 // function makes a holder without one.
 CallbackHolder* holder(const Arguments& arguments) {
   const v8::Local<v8::Value> last = arguments[arguments.Length() - 1];
-  const std::string kind = *v8::String::Utf8Value(last);
+  const std::string kind =
+      Utf8Argument<16>(arguments, arguments.Length() - 1).c_str();
   if (kind == "none") return nullptr;
   return new CallbackHolder(
       kind == "no isolate" ? nullptr : arguments.GetIsolate(), last);
