@@ -14,18 +14,25 @@ v8::Local<v8::Value> value_or_undefined(v8::Isolate* isolate,
 
 }  // namespace
 
-ScriptGuard::ScriptGuard(v8::Isolate* isolate) : try_catch_(isolate) {
+ScriptGuard::ScriptGuard(v8::Isolate* isolate)
+    : isolate_(isolate), try_catch_(isolate) {
   try_catch_.SetCaptureMessage(false);
 }
 
 ScriptGuard::~ScriptGuard() {
-  if (try_catch_.HasTerminated()) try_catch_.ReThrow();
+  if (!try_catch_.HasTerminated()) return;
+  // Rethrown it ends this call; asked for again, it ends what the call still
+  // runs before it returns.
+  isolate_->TerminateExecution();
+  try_catch_.ReThrow();
 }
 
 v8::Local<v8::String> read_text(const Arguments& arguments, int index) {
   const v8::Local<v8::Value> value = arguments[index];
   if (value->IsString()) return value.As<v8::String>();
   v8::Isolate* isolate = arguments.GetIsolate();
+  // A guard that begins now would end the termination on newer runtimes.
+  if (isolate->IsExecutionTerminating()) return v8::String::Empty(isolate);
   const ScriptGuard guard(isolate);
   v8::Local<v8::String> text;
   if (value->ToString(isolate->GetCurrentContext()).ToLocal(&text)) return text;

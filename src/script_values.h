@@ -30,6 +30,7 @@ class ScriptGuard {
   ScriptGuard& operator=(const ScriptGuard&) = delete;
 
  private:
+  v8::Isolate* isolate_;
   v8::TryCatch try_catch_;
 };
 

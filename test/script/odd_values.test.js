@@ -104,6 +104,7 @@ test('a script that is being terminated stays terminated', () => {
   const forever = { toString() { for (;;); }, valueOf() { for (;;); } };
   const calls = ['isPingHostValid(forever)', 'setDefaultDPI(forever)',
     'asyncShellExecuteAndWait(forever, 1, 2, Object)',
+    'asyncShellExecuteAndWait(1, forever, forever, Object)',
     'attachClipBoard(forever.toString)'];
   for (const code of calls) {
     const sandbox = { helper, forever, reached: false };
