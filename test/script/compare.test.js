@@ -38,7 +38,8 @@ test('the locale of the environment decides', () => {
 });
 
 test('the result is the distance that the locale gives', () => {
-  if (locale !== 'C') return;
+  // The C library tells a distance on this architecture, elsewhere a sign.
+  if (locale !== 'C' || process.arch !== 'x64') return;
   check('compareStr', ['a', 'd'], 3);
   check('compareStr', ['d', 'a'], -3);
 });

@@ -5,7 +5,7 @@
 const fs = require('fs');
 const path = require('path');
 const { execFileSync } = require('child_process');
-const { assert, helper, temporaryFolder, test } = require('./harness');
+const { assert, helper, runtime, temporaryFolder, test } = require('./harness');
 
 const names = fs.readFileSync(
   path.join(__dirname, '../data/script_names.txt'), 'utf8').trim().split(/\s+/);
@@ -32,7 +32,18 @@ test('the module loads from a folder with nothing but its two files', () => {
     fs.copyFileSync(path.join(built, file), path.join(folder, file));
   }
   const script = 'console.log(Object.keys(require("./KorvaneHelper")).length)';
-  const printed = execFileSync(process.execPath, ['-e', script],
+  const printed = execFileSync(runtime[0], [...runtime.slice(1), '-e', script],
     { cwd: folder, env: {}, encoding: 'utf8' });
   assert.strictEqual(printed, '163\n');
+});
+
+test('a setter in the way of a name leaves out that name alone', () => {
+  const script = `
+    const setter = { set() { throw new Error('from script'); } };
+    Object.defineProperty(Object.prototype, 'System', setter);
+    const helper = require(process.env.KORVANE_MODULE);
+    console.log(Object.keys(helper).length, helper.System);`;
+  const printed = execFileSync(runtime[0], [...runtime.slice(1), '-e', script],
+    { encoding: 'utf8' });
+  assert.strictEqual(printed, '162 undefined\n');
 });

@@ -31,6 +31,11 @@ function check(name, args, want) {
     `want ${typeof want} ${show(want)}, got ${typeof got} ${show(got)}`);
 }
 
+// The command that starts this runtime again: behind an emulator for another
+// architecture's.
+const runtime = [process.env.KORVANE_EMULATOR, process.execPath]
+  .filter(Boolean);
+
 // A folder that goes with the process.
 function temporaryFolder() {
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'korvane-'));
@@ -45,4 +50,4 @@ process.on('exit', (code) => {
   if (code === 0 && failures > 0) process.exitCode = 1;
 });
 
-module.exports = { assert, check, helper, temporaryFolder, test };
+module.exports = { assert, check, helper, runtime, temporaryFolder, test };

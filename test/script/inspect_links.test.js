@@ -6,14 +6,14 @@ const fs = require('fs');
 const path = require('path');
 const readline = require('readline');
 const { spawn, spawnSync } = require('child_process');
-const { assert, test } = require('./harness');
+const { assert, runtime, test } = require('./harness');
 
 const program = path.join(__dirname,
   '../../examples/inspect_links/inspect_links.js');
 const hash = '0123456789abcdef0123456789abcdef';
 
 function run(args, input) {
-  return spawnSync(process.execPath, [program, ...args],
+  return spawnSync(runtime[0], [...runtime.slice(1), program, ...args],
     { input, encoding: 'utf8' });
 }
 
@@ -55,7 +55,8 @@ test('a table for people, one line for a text that is no link', () => {
 });
 
 // 100,000 links through pipes: memory at the end is what it was after 20,000.
-const child = spawn(process.execPath, [program, '--json']);
+const child = spawn(runtime[0],
+  [...runtime.slice(1), program, '--json']);
 const peak = () => Number(fs.readFileSync(`/proc/${child.pid}/status`, 'utf8')
   .match(/VmHWM:\s+(\d+) kB/)[1]);
 let count = 0;

@@ -27,7 +27,7 @@ let atom = 0x200;
 
 const field = (size, value = 0) => {
   const bytes = Buffer.alloc(size);
-  if (value !== 0) bytes.writeIntLE(value | 0, 0, size, true);
+  for (let i = 0; i < size; i += 1) bytes[i] = value >> (8 * i);
   return bytes;
 };
 const byte = (value) => field(1, value);
