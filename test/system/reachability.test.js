@@ -15,18 +15,21 @@ const shorter = 'b'.repeat(8180);
 const folder = temporaryFolder();
 const replaced = {
   hosts: ['127.0.0.1 localhost', '10.0.0.1 known', '10.0.0.2 undefined',
-    '10.0.0.3 null', '10.0.0.4 HTTP:', '10.0.0.5 xhttp:', 
+    '10.0.0.3 null', '10.0.0.4 HTTP:', '10.0.0.5 xhttp:',
     '10.0.0.6 other?http: other?https: known?https:',
     '10.0.0.7 https:', '10.0.0.8 known\\a', `10.0.0.9 ${longest}`,
     `10.0.0.10 ${shorter}`],
   'resolv.conf': ['nameserver 127.0.0.1', 'options timeout:1 attempts:1'],
   'nsswitch.conf': ['hosts: files dns'],
 };
+// A copy of /etc, which may lack these files or link them to elsewhere.
+const etc = path.join(folder, 'etc');
+execFileSync('cp', ['-a', '/etc', etc]);
 for (const [name, lines] of Object.entries(replaced)) {
-  const file = path.join(folder, name);
-  fs.writeFileSync(file, `${lines.join('\n')}\n`);
-  execFileSync('mount', ['--bind', file, `/etc/${name}`]);
+  execFileSync('rm', ['-f', path.join(etc, name)]);
+  fs.writeFileSync(path.join(etc, name), `${lines.join('\n')}\n`);
 }
+execFileSync('mount', ['--bind', etc, '/etc']);
 
 function checkAll(cases) {
   for (const [url, want] of cases) check('isPingHostValid', [url], want);
