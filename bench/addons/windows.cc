@@ -1,0 +1,67 @@
+// The X library called by hand, on a connection for each call.
+#include <node.h>
+
+// Behind the runtime's header, which names things as the X library's macros do.
+#include <X11/Xlib.h>
+
+namespace {
+
+using Arguments = v8::FunctionCallbackInfo<v8::Value>;
+
+int integer(const Arguments& arguments, int index) {
+  return arguments[index]->Int32Value();
+}
+
+void set(v8::Isolate* isolate, v8::Local<v8::Object> object, const char* key,
+         int value) {
+  object->Set(v8::String::NewFromUtf8(isolate, key),
+              v8::Integer::New(isolate, value));
+}
+
+// Answers a new window that stays until the process ends.
+void create_window(const Arguments& arguments) {
+  static Display* const display = XOpenDisplay(nullptr);
+  const Window window = XCreateSimpleWindow(
+      display, XDefaultRootWindow(display), 10, 20, 100, 80, 0, 0, 0);
+  XSync(display, False);
+  arguments.GetReturnValue().Set(static_cast<double>(window));
+}
+
+void get_cursor_pos(const Arguments& arguments) {
+  Display* display = XOpenDisplay(nullptr);
+  Window root = None;
+  Window child = None;
+  int root_x = 0;
+  int root_y = 0;
+  int x = 0;
+  int y = 0;
+  unsigned buttons = 0;
+  XQueryPointer(display, XDefaultRootWindow(display), &root, &child, &root_x,
+                &root_y, &x, &y, &buttons);
+  XCloseDisplay(display);
+  v8::Isolate* isolate = arguments.GetIsolate();
+  const v8::Local<v8::Object> position = v8::Object::New(isolate);
+  set(isolate, position, "x", x);
+  set(isolate, position, "y", y);
+  arguments.GetReturnValue().Set(position);
+}
+
+void move_window(const Arguments& arguments) {
+  Display* display = XOpenDisplay(nullptr);
+  XMoveResizeWindow(display, arguments[0]->Uint32Value(), integer(arguments, 1),
+                    integer(arguments, 2),
+                    static_cast<unsigned>(integer(arguments, 3)),
+                    static_cast<unsigned>(integer(arguments, 4)));
+  XFlush(display);
+  XCloseDisplay(display);
+}
+
+void register_functions(v8::Local<v8::Object> exports) {
+  NODE_SET_METHOD(exports, "createWindow", create_window);
+  NODE_SET_METHOD(exports, "getCursorPos", get_cursor_pos);
+  NODE_SET_METHOD(exports, "moveWindow", move_window);
+}
+
+}  // namespace
+
+NODE_MODULE(windows, register_functions)
