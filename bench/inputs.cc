@@ -49,6 +49,7 @@ constexpr std::string_view kForeignWords[] = {"caf%C3%A9", "%E4%B8%AD%E6%96%87",
                                               "%D0%9C%D0%B8%D1%80"};
 constexpr std::string_view kTypes[] = {".zip", ".tar.gz", ".iso", ".mp4"};
 constexpr std::string_view kUsers[] = {"mary", "j.smith", "guest%20one"};
+constexpr std::string_view kPasswords[] = {"secret", "p%40ss"};
 constexpr std::string_view kTrackers[] = {
     "udp%3A%2F%2Ftracker.example.org%3A6969%2Fannounce",
     "http%3A%2F%2Fopen.tracker.example.net%3A80%2Fannounce",
@@ -102,9 +103,10 @@ Texts downloads() {
 
 Texts urls_with_user() {
   return make_texts(3, [](Dice& dice) {
-    return "ftp://" + dice.pick(kUsers) + ":p%40ss" + dice.number(1000) +
-           "@ftp." + host(dice) + ":2121/pub/file-" + dice.number(1000) +
-           ".bin";
+    return "ftp://" + dice.pick(kUsers) + ":" + dice.pick(kPasswords) +
+           dice.number(1000) + "@ftp." + host(dice) + ":2121/pub/releases/" +
+           dice.number(3000) + "/" + dice.pick(kWords) + "-" +
+           dice.number(1000) + dice.pick(kTypes);
   });
 }
 
