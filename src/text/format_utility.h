@@ -63,7 +63,9 @@ constexpr std::uint64_t decimal_value(std::basic_string_view<Unit> digits) {
   std::uint64_t value = 0;
   for (const Unit unit : digits) {
     const auto digit = static_cast<std::uint64_t>(unit - Unit('0'));
-    if (value > (kMost - digit) / 10) return kMost;
+    if (value >= kMost / 10 && (value > kMost / 10 || digit > kMost % 10)) {
+      return kMost;
+    }
     value = value * 10 + digit;
   }
   return value;

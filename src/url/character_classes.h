@@ -21,6 +21,7 @@ constexpr CharacterClasses kBlank = 16;      // space or tab
 constexpr CharacterClasses kPercent = 32;    // opens an escape
 constexpr CharacterClasses kZero = 64;       // ends text that is converted
 constexpr CharacterClasses kForeign = 128;   // not ASCII
+constexpr CharacterClasses kEveryClass = 255;
 
 namespace internal {
 

@@ -28,6 +28,15 @@ void cut_at_zero(DecodedText& decoded) {
   decoded.text = decoded.text.substr(0, decoded.text.find(L'\0'));
 }
 
+// The classes of the units up to the first "%" and of that.
+CharacterClasses classes_until_escape(std::wstring_view text) {
+  unsigned classes = 0;
+  for (std::size_t i = 0; i < text.size() && (classes & kPercent) == 0; ++i) {
+    classes |= classes_of(text[i]);
+  }
+  return static_cast<CharacterClasses>(classes);
+}
+
 // Units of 0 to 255 where `text` is ASCII.
 void decode_escapes(std::wstring_view text, ScratchText& scratch,
                     DecodedText& decoded) {
@@ -61,12 +70,11 @@ std::wstring_view ScratchText::hold(std::wstring&& text) {
 
 DecodedText decode_with_code_page(std::wstring_view text, unsigned code_page,
                                   ScratchText& scratch) {
-  DecodedText decoded = {text, 0};
-  const bool is_escaped = text.find(L'%') != std::wstring_view::npos;
-  if (is_escaped) decode_escapes(text, scratch, decoded);
-  if (!is_escaped || (decoded.holds(kForeign) && !is_ascii(text))) {
-    decoded = {text, classes_in(text)};
-    if (decoded.holds(kForeign)) return decoded;
+  DecodedText decoded = {text, classes_until_escape(text)};
+  if (decoded.holds(kForeign)) return {text, kEveryClass};
+  if (decoded.holds(kPercent)) {
+    decode_escapes(text, scratch, decoded);
+    if (decoded.holds(kForeign) && !is_ascii(text)) return {text, kEveryClass};
   }
   cut_at_zero(decoded);
   // Every code page agrees with ASCII: only other bytes need the conversion.

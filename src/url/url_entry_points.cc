@@ -45,20 +45,26 @@ bool put(std::wstring_view text, std::uint64_t& length,
   return true;
 }
 
+std::wstring_view decoded(std::wstring_view text, unsigned code_page,
+                          ScratchText& scratch) {
+  if (text.empty()) return text;
+  return decode_with_code_page(text, code_page, scratch).text;
+}
+
 long put_url(std::wstring_view url, unsigned code_page, url_info_u& info) {
   if (url.empty()) return URL_E_UNSUPPORTED;
-  UrlParts parts;
-  if (split_url(url, parts) != UrlFault::kNone) return URL_E_PARSE;
+  const auto [fault, parts] = qk::url::split_url(url);
+  if (fault != UrlFault::kNone) return URL_E_PARSE;
   if (parts.type == SCHEMA_UNKNOWN) return URL_E_UNSUPPORTED;
 
-  ScratchText user;
-  ScratchText password;
-  parts.user = decode_with_code_page(parts.user, code_page, user).text;
-  parts.password =
-      decode_with_code_page(parts.password, code_page, password).text;
+  // Decoded before the first write: want of memory leaves the record alone.
+  ScratchText user_scratch;
+  ScratchText password_scratch;
+  const auto user = decoded(parts.user, code_page, user_scratch);
+  const auto password = decoded(parts.password, code_page, password_scratch);
   const bool fits = put(parts.schema, info.schema_len, info.schema) &&
-                    put(parts.user, info.user_len, info.user) &&
-                    put(parts.password, info.password_len, info.password) &&
+                    put(user, info.user_len, info.user) &&
+                    put(password, info.password_len, info.password) &&
                     put(parts.host, info.host_len, info.host) &&
                     put(parts.path, info.path_len, info.path);
   if (!fits) return URL_E_BUFFER;

@@ -43,8 +43,7 @@ bool url_object::parse_url(const std::wstring& url, unsigned code_page,
     out = null_url();
     return true;
   }
-  UrlParts parts;
-  const UrlFault fault = qk::url::split_url(url, parts);
+  const auto [fault, parts] = qk::url::split_url(url);
   // The text may be a member of `out`: read it whole before the first write.
   url_object parsed = object_of(parts, code_page);
   if (fault == UrlFault::kNoScheme) return false;

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 
+#include "text/code_of.h"
 #include "text/format_utility.h"
 #include "url/percent_coding.h"
 
@@ -15,8 +16,33 @@ using namespace std::string_view_literals;
 constexpr std::size_t kNowhere = std::wstring_view::npos;
 constexpr std::wstring_view kSchemeEnd = L"://";
 
+constexpr std::wstring_view kNoPath = L"/";
+
+// A scheme in lower case, packed into a number to be compared at once. All
+// texts that are too long for one, or not ASCII, are one that is no scheme.
+struct PackedScheme {
+  std::size_t size = 0;
+  std::uint64_t units = 0;
+};
+
+template <typename Unit>
+constexpr PackedScheme pack_scheme(std::basic_string_view<Unit> schema) {
+  PackedScheme packed = {schema.size(), 0};
+  if (schema.size() > sizeof(packed.units)) return {};
+  for (const Unit unit : schema) {
+    const std::uint32_t code = text::code_of(unit);
+    if (code >= 0x80) return {};
+    const bool is_capital = code >= 'A' && code <= 'Z';
+    packed.units = packed.units << 8 | (is_capital ? code | 0x20 : code);
+  }
+  return packed;
+}
+
 struct Scheme {
-  std::string_view text;
+  constexpr Scheme(std::string_view text, SCHEMA_TYPE its_type)
+      : packed(pack_scheme(text)), type(its_type) {}
+
+  PackedScheme packed;
   SCHEMA_TYPE type;
 };
 
@@ -27,12 +53,6 @@ constexpr Scheme kSchemes[] = {
     {"mmst://", SCHEMA_MMST},   {"rtspt://", SCHEMA_RTSPT},
     {"peer://", SCHEMA_PEER},
 };
-
-template <typename Unit>
-bool is_scheme_unit(Unit unit, char lower) {
-  const bool is_capital = unit >= Unit('A') && unit <= Unit('Z');
-  return (is_capital ? unit + ('a' - 'A') : unit) == lower;
-}
 
 std::wstring_view without_leading_blanks(std::wstring_view text) {
   while (!text.empty() && is_one_of(text.front(), kBlank))
@@ -46,36 +66,38 @@ std::wstring_view between(std::wstring_view text, std::size_t begin,
   return text.substr(begin, end - begin);
 }
 
-// Where the authority's separators stand, kNowhere for those that it lacks.
-struct Authority {
-  std::size_t end;  // its own: the first "/" or the end of the text
-  std::size_t user_end = kNowhere;    // the last "@"
-  std::size_t user_colon = kNowhere;  // the first ":" before that
-  std::size_t host_colon = kNowhere;  // the first ":" behind it
-};
-
-Authority scan_authority(std::wstring_view text, std::size_t begin) {
-  Authority found{begin};
-  for (; found.end < text.size() && text[found.end] != L'/'; ++found.end) {
-    const wchar_t unit = text[found.end];
-    if (unit == L':' && found.host_colon == kNowhere) {
-      found.host_colon = found.end;
-    } else if (unit == L'@') {
-      found.user_end = found.end;
-      if (found.user_colon == kNowhere) found.user_colon = found.host_colon;
-      found.host_colon = kNowhere;
-    }
+// Where the scheme's "://" begins: near the start, so a plain loop finds it
+// before a search of the library has begun.
+std::size_t find_scheme_end(std::wstring_view text) {
+  for (std::size_t i = 0; i + kSchemeEnd.size() <= text.size(); ++i) {
+    if (text[i] == L':' && text[i + 1] == L'/' && text[i + 2] == L'/') return i;
   }
-  return found;
+  return kNowhere;
 }
 
-void split_user(std::wstring_view text, std::size_t begin,
-                const Authority& authority, UrlParts& parts) {
-  const std::size_t user_end =
-      std::min(authority.user_colon, authority.user_end);
-  parts.user = between(text, begin, user_end);
-  if (authority.user_colon == kNowhere) return;
-  parts.password = between(text, user_end + 1, authority.user_end);
+// Where the authority's separators stand, kNowhere for those that it lacks.
+struct Authority {
+  std::size_t end;         // its own: the first "/" or the end of the text
+  std::size_t user_end;    // the last "@"
+  std::size_t user_colon;  // the first ":" before that
+  std::size_t host_colon;  // the first ":" behind it
+};
+
+// A search for each: the C library looks at several units at once, where one
+// loop for all would stop and start at every separator.
+Authority find_separators(std::wstring_view text, std::size_t begin) {
+  const std::size_t end = std::min(text.find(L'/', begin), text.size());
+  const std::wstring_view authority = text.substr(0, end);
+  std::size_t user_end = kNowhere;
+  for (std::size_t at = authority.find(L'@', begin); at != kNowhere;
+       at = authority.find(L'@', at + 1)) {
+    user_end = at;
+  }
+  if (user_end == kNowhere) {
+    return {end, kNowhere, kNowhere, authority.find(L':', begin)};
+  }
+  return {end, user_end, authority.substr(0, user_end).find(L':', begin),
+          authority.find(L':', user_end + 1)};
 }
 
 // Reads an explicit port; empty digits are port 0.
@@ -146,10 +168,10 @@ void print_to(Sink& sink, const UrlParts& parts) {
 
 template <typename Unit>
 SCHEMA_TYPE schema_type_of(std::basic_string_view<Unit> schema) {
+  const PackedScheme packed = pack_scheme(schema);
   for (const Scheme& known : kSchemes) {
-    if (schema.size() == known.text.size() &&
-        std::equal(schema.begin(), schema.end(), known.text.begin(),
-                   is_scheme_unit<Unit>)) {
+    if (known.packed.units == packed.units &&
+        known.packed.size == packed.size) {
       return known.type;
     }
   }
@@ -159,38 +181,48 @@ SCHEMA_TYPE schema_type_of(std::basic_string_view<Unit> schema) {
 template SCHEMA_TYPE schema_type_of(std::string_view schema);
 template SCHEMA_TYPE schema_type_of(std::wstring_view schema);
 
-UrlFault split_url(std::wstring_view url, UrlParts& parts) {
+SplitUrl split_url(std::wstring_view url) {
   const std::wstring_view text = without_leading_blanks(url);
-  const std::size_t scheme_end = text.find(kSchemeEnd);
-  if (scheme_end == kNowhere || scheme_end == 0) return UrlFault::kNoScheme;
+  const std::size_t scheme_end = find_scheme_end(text);
+  if (scheme_end == kNowhere || scheme_end == 0) {
+    return {UrlFault::kNoScheme, {}};
+  }
   std::size_t begin = scheme_end + kSchemeEnd.size();
-  parts.schema = text.substr(0, begin);
-  parts.type = schema_type_of(parts.schema);
+  const std::wstring_view schema = text.substr(0, begin);
+  const SCHEMA_TYPE type = schema_type_of(schema);
 
-  const Authority authority = scan_authority(text, begin);
+  const Authority authority = find_separators(text, begin);
   const bool has_path = authority.end < text.size();
-  if (has_path && authority.end == begin) return UrlFault::kNoAuthority;
+  if (has_path && authority.end == begin) {
+    return {UrlFault::kNoAuthority, {schema, type, {}, {}, {}, 0, {}}};
+  }
+  std::wstring_view user;
+  std::wstring_view password;
   if (authority.user_end != kNowhere) {
-    split_user(text, begin, authority, parts);
+    const std::size_t colon =
+        std::min(authority.user_colon, authority.user_end);
+    user = between(text, begin, colon);
+    // Behind the colon; none without one.
+    password = between(text, std::min(colon + 1, authority.user_end),
+                       authority.user_end);
     begin = authority.user_end + 1;
   }
 
-  if (authority.host_colon == kNowhere) {
-    parts.host = between(text, begin, authority.end);
-    parts.port = url_object::default_port_for(parts.type);
-  } else {
-    parts.host = between(text, begin, authority.host_colon);
-    if (!read_port(between(text, authority.host_colon + 1, authority.end),
-                   parts.port)) {
-      return UrlFault::kNoPort;
-    }
+  const std::size_t host_end = std::min(authority.host_colon, authority.end);
+  std::uint32_t port = 0;
+  if (host_end == authority.end) {
+    port = url_object::default_port_for(type);
+  } else if (!read_port(between(text, host_end + 1, authority.end), port)) {
+    return {UrlFault::kNoPort, {schema, type, user, password, {}, 0, {}}};
   }
-  parts.path = L"/";
+  std::wstring_view path = kNoPath;
   if (has_path) {
     const std::wstring_view rest = text.substr(authority.end);
-    parts.path = rest.substr(0, rest.find(L'#'));
+    path = rest.substr(0, rest.find(L'#'));
   }
-  return UrlFault::kNone;
+  return {UrlFault::kNone,
+          {schema, type, user, password, between(text, begin, host_end), port,
+           path}};
 }
 
 std::size_t printed_size(const UrlParts& parts) {

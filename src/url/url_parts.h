@@ -28,9 +28,14 @@ enum class UrlFault {
   kNoPort,       // the scheme, user and password are set
 };
 
+struct SplitUrl {
+  UrlFault fault;
+  UrlParts parts;
+};
+
 // Takes `url` apart. User and password are not decoded. The parts are views of
 // `url`, except for the path "/" of a URL without one.
-UrlFault split_url(std::wstring_view url, UrlParts& parts);
+SplitUrl split_url(std::wstring_view url);
 
 // How long the printed URL is; its user and password are taken as decoded.
 std::size_t printed_size(const UrlParts& parts);
