@@ -13,20 +13,29 @@
 #include "url/korvane_links.h"
 #include "url/narrow_text.h"
 #include "url/percent_coding.h"
+#include "url/text_decoding.h"
 
 namespace {
 
 using namespace qk::url;
 
 constexpr std::wstring_view kPrefix = L"magnet:?";
+constexpr std::wstring_view kExactTopic = L"xt";
+constexpr std::wstring_view kTracker = L"tr";
+constexpr std::wstring_view kDisplayName = L"dn";
 constexpr std::wstring_view kHashPrefix = L"urn:btih:";
 constexpr std::size_t kHashSize = MAGNET_HASH_SIZE;
 constexpr std::size_t kBase16Digits = 2 * kHashSize;
 constexpr std::size_t kBase32Groups = kHashSize / kBase32GroupBytes;
 constexpr std::size_t kBase32Digits = kBase32Groups * kBase32GroupDigits;
 
-bool begins_with(std::wstring_view text, std::wstring_view prefix) {
-  return text.substr(0, prefix.size()) == prefix;
+// Prefixes are short: a call to compare them costs more than the comparison.
+constexpr bool begins_with(std::wstring_view text, std::wstring_view prefix) {
+  if (text.size() < prefix.size()) return false;
+  for (std::size_t i = 0; i < prefix.size(); ++i) {
+    if (text[i] != prefix[i]) return false;
+  }
+  return true;
 }
 
 // Moves `rest` past its next part; false when nothing is left, so that a
@@ -40,10 +49,17 @@ bool next_part(std::wstring_view& rest, wchar_t separator,
   return true;
 }
 
-// "xt" stands for "xt" and for "xt.1", "xt.2", ...
-bool is_key(std::wstring_view key, std::wstring_view name) {
-  return begins_with(key, name) &&
-         (key.size() == name.size() || key[name.size()] == L'.');
+// Whether the key of `item`, what stands before its first "=", is `name`: "xt"
+// stands for "xt" and for "xt.1", "xt.2", ...; puts what stands behind it, the
+// whole item if there is no "=", in `value`.
+constexpr bool has_key(std::wstring_view item, std::wstring_view name,
+                       std::wstring_view& value) {
+  if (!begins_with(item, name)) return false;
+  std::size_t sign = name.size();
+  if (sign < item.size() && item[sign] == L'.') sign = item.find(L'=', sign);
+  if (sign < item.size() && item[sign] != L'=') return false;
+  value = sign < item.size() ? item.substr(sign + 1) : item;
+  return true;
 }
 
 // Decodes the digits up to the first bad one; false for a wrong number of them.
@@ -77,15 +93,12 @@ bool read_link(std::wstring_view url, Link& link) {
   std::wstring_view rest = url.substr(kPrefix.size());
   std::wstring_view item;
   while (next_part(rest, L'&', item)) {
-    const std::size_t sign = item.find(L'=');
-    const std::wstring_view key = item.substr(0, sign);
-    const std::wstring_view value =
-        sign == std::wstring_view::npos ? item : item.substr(sign + 1);
-    if (is_key(key, L"xt")) {
+    std::wstring_view value;
+    if (has_key(item, kExactTopic, value)) {
       if (!read_exact_topic(value, link)) return false;
-    } else if (is_key(key, L"tr")) {
+    } else if (has_key(item, kTracker, value)) {
       link.add_tracker(value);
-    } else if (is_key(key, L"dn")) {
+    } else if (has_key(item, kDisplayName, value)) {
       link.put_display_name(value);
     }
   }
@@ -104,13 +117,6 @@ struct InfoHash {
   bool found = false;
 };
 
-template <Kept kKept>
-void decode_in_place(std::wstring& text) {
-  const wchar_t* end =
-      percent_decode<kKept>(std::wstring_view(text), text.data());
-  text.resize(static_cast<std::size_t>(end - text.data()));
-}
-
 }  // namespace
 
 struct bt_magnet_url_parser::all_fields {
@@ -123,23 +129,35 @@ struct bt_magnet_url_parser::all_fields {
   // Decoded twice (kept: callers rely on it), the second time but for the
   // escapes that keep the parts of the tracker's address apart.
   void add_tracker(std::wstring_view value) {
-    std::wstring& tracker = link.trackers_.emplace_back(value);
-    decode_in_place<Kept::kNothing>(tracker);
-    decode_in_place<Kept::kSeparating>(tracker);
+    constexpr std::size_t kUsualTrackers = 8;
+    if (link.trackers_.empty()) link.trackers_.reserve(kUsualTrackers);
+    bool is_escaped = false;
+    const std::wstring_view once = decoded<Kept::kNothing>(
+        value, [&is_escaped](wchar_t unit) { is_escaped |= unit == L'%'; });
+    link.trackers_.emplace_back(
+        is_escaped ? decoded<Kept::kSeparating>(once, [](wchar_t) {}) : once);
   }
   void put_display_name(std::wstring_view value) {
-    link.display_name_ = value;
-    decode_in_place<Kept::kNothing>(link.display_name_);
+    link.display_name_ = decoded<Kept::kNothing>(value, [](wchar_t) {});
+  }
+
+  // A view of `scratch`, which may hold `text` already.
+  template <Kept kKept, typename See>
+  std::wstring_view decoded(std::wstring_view text, See see) {
+    wchar_t* begin = scratch.reserve(text.size());
+    const wchar_t* end = percent_decode<kKept>(text, begin, see);
+    return {begin, static_cast<std::size_t>(end - begin)};
   }
 
   bt_magnet_url_parser& link;
+  ScratchText scratch;
 };
 
 bt_magnet_url_parser::bt_magnet_url_parser(std::wstring url)
     : url_(std::move(url)) {}
 
 bool bt_magnet_url_parser::parse_magnet_url() {
-  all_fields fields{*this};
+  all_fields fields{*this, {}};
   return read_link(url_, fields);
 }
 

@@ -13,6 +13,7 @@
 
 #include "text/string_utility.h"
 #include "text/transcode.h"
+#include "text/utf8.h"
 #include "url/base_decoding.h"
 #include "url/character_classes.h"
 #include "url/ed2k_file_link.h"
@@ -32,6 +33,10 @@ namespace {
 
 using namespace qk::url;
 
+constexpr std::wstring_view kScheme = L"ed2k://";
+constexpr std::wstring_view kFile = L"file";
+constexpr std::wstring_view kBar = L"|";
+constexpr std::wstring_view kEscapedBar = L"%7C";
 constexpr std::size_t kFixedPieces = 5;
 constexpr std::uint64_t kLargestFile = std::uint64_t{1} << 50;
 constexpr std::size_t kKeySize = 2;  // of "h=", "p=" and "s="
@@ -50,7 +55,7 @@ class Pieces {
   bool next(View& piece) {
     do {
       if (rest_.empty()) return false;
-      const std::size_t end = std::min(rest_.find(separator_), rest_.size());
+      const std::size_t end = std::min(find_separator(), rest_.size());
       piece = rest_.substr(0, end);
       rest_.remove_prefix(std::min(end + separator_.size(), rest_.size()));
     } while (piece.empty());
@@ -58,6 +63,12 @@ class Pieces {
   }
 
  private:
+  // Nearly all are one unit, which is found without a comparison.
+  std::size_t find_separator() const {
+    return separator_.size() == 1 ? rest_.find(separator_[0])
+                                  : rest_.find(separator_);
+  }
+
   View rest_;
   View separator_;
 };
@@ -66,11 +77,7 @@ class Pieces {
 // plain one, and only in upper case.
 Pieces<wchar_t> pieces_of(std::wstring_view url) {
   const bool plain = url.find(L'|') != std::wstring_view::npos;
-  return {url, plain ? L"|" : L"%7C"};
-}
-
-bool begins_with_nocase(std::wstring_view text, std::wstring_view prefix) {
-  return qk::text::find_nocase(text.substr(0, prefix.size()), prefix) == 0;
+  return {url, plain ? kBar : kEscapedBar};
 }
 
 // What scanning with "%I64u" makes of any text: leading white space, a sign,
@@ -135,9 +142,11 @@ bool decode_root_hash(std::basic_string_view<Unit> digits,
 template <typename Link>
 bool read_file_hash(std::wstring_view text, Link& link) {
   ed2k_file_link::file_hash hash;
-  const bool valid = read_narrow(text, [&hash](auto digits) {
+  const auto decode = [&hash](auto digits) {
     return digits.size() == kFileHashDigits && decode_file_hash(digits, hash);
-  });
+  };
+  // What is a hash as it stands is one in every narrow encoding.
+  const bool valid = decode(text) || read_narrow(text, decode);
   if (valid) link.put_file_hash(hash);
   return valid;
 }
@@ -145,8 +154,10 @@ bool read_file_hash(std::wstring_view text, Link& link) {
 template <typename Link>
 bool read_root_hash(std::wstring_view text, Link& link) {
   ed2k_file_link::root_hash hash;
-  const bool valid = read_narrow(
-      text, [&hash](auto digits) { return decode_root_hash(digits, hash); });
+  const auto decode = [&hash](auto digits) {
+    return decode_root_hash(digits, hash);
+  };
+  const bool valid = decode(text) || read_narrow(text, decode);
   if (valid) link.put_root_hash(hash);
   return valid;
 }
@@ -216,6 +227,7 @@ bool has_sources(std::wstring_view field) {
 // address with "p=" in its query is taken for part hashes.
 template <typename Link>
 bool read_optional_field(std::wstring_view field, Link& link) {
+  if (field.size() < kKeySize) return true;  // the closing "/"
   const std::wstring_view searched = until_zero(field);
   const Keys keys = keys_in(searched);
   if (keys.root_hash) return read_root_hash(field.substr(kKeySize), link);
@@ -242,19 +254,26 @@ void clean_name(Iterator begin, Iterator end) {
 // is left as it stands, uncleaned (kept: callers rely on it): names without an
 // escape or beyond ASCII, and those that decode to nothing.
 std::wstring_view decode_name(std::wstring_view name, ScratchText& scratch) {
-  if (name.find(L'%') == std::wstring_view::npos || !is_ascii(name)) return {};
+  if (name.find(L'%') == std::wstring_view::npos) return {};
   wchar_t* units = scratch.reserve(name.size());
-  const wchar_t* end = percent_decode(name, units);
-  const std::wstring_view decoded = until_zero(
-      std::wstring_view(units, static_cast<std::size_t>(end - units)));
-  if (is_ascii(decoded)) {
-    clean_name(units, units + decoded.size());
+  unsigned classes = 0;
+  const wchar_t* end = percent_decode(
+      name, units, [&classes](wchar_t unit) { classes |= classes_of(unit); });
+  std::wstring_view decoded(units, static_cast<std::size_t>(end - units));
+  const bool is_foreign = (classes & kForeign) != 0;
+  if (is_foreign && !is_ascii(name)) return {};
+  if ((classes & kZero) != 0) decoded = until_zero(decoded);
+  if (!is_foreign || is_ascii(decoded)) {
+    if ((classes & kIllegal) != 0) clean_name(units, units + decoded.size());
     return decoded;
   }
   const std::string utf8(decoded.begin(), decoded.end());
   std::wstring wide;
-  qk::text::transcode::UTF8_to_Unicode(
-      utf8.data(), static_cast<unsigned>(utf8.size()), wide);
+  // Valid UTF-8 needs no converter, and nearly every name is.
+  if (!qk::text::decode_utf8(utf8, wide)) {
+    qk::text::transcode::UTF8_to_Unicode(
+        utf8.data(), static_cast<unsigned>(utf8.size()), wide);
+  }
   clean_name(wide.begin(), wide.end());
   return scratch.hold(std::move(wide));
 }
@@ -268,8 +287,8 @@ bool read_link(std::wstring_view url, Link& link) {
     if (!pieces.next(piece)) return false;
   }
   const auto& [scheme, kind, name, size, hash] = fixed;
-  if (!begins_with_nocase(scheme, L"ed2k://")) return false;
-  if (!begins_with_nocase(kind, L"file")) return false;
+  if (!qk::text::begins_with_nocase(scheme, kScheme)) return false;
+  if (!qk::text::begins_with_nocase(kind, kFile)) return false;
   link.put_name(name);
   read_size(size, link.size());
   if (link.size() == 0 || link.size() > kLargestFile) return false;
