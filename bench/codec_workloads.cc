@@ -8,17 +8,11 @@
 namespace bench {
 namespace {
 
-// One operation a pass.
-template <typename Run>
-Contender once(const std::string& name, Run run) {
-  return {name, 1, [run] { keep(run()); }};
-}
-
 template <typename Ours, typename Theirs>
 void compare(const Table& table, const std::string& function, std::size_t size,
              Ours ours, const std::string& rival, Theirs theirs, double goal) {
   table.compare(function + ", " + std::to_string(size) + " B",
-                once(function, ours), {{once(rival, theirs), goal}});
+                repeating(function, ours), {{repeating(rival, theirs), goal}});
 }
 
 void compare_base64_encode(const Table& table, std::size_t size, double goal) {

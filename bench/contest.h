@@ -24,6 +24,16 @@ struct Contender {
   std::function<void()> pass;
 };
 
+// One input: run several times in a pass, so that what calls the pass counts
+// for nothing.
+template <typename Run>
+Contender repeating(const std::string& name, Run run) {
+  constexpr std::size_t kTimes = 16;
+  return {name, kTimes, [run] {
+            for (std::size_t i = 0; i < kTimes; ++i) keep(run());
+          }};
+}
+
 struct Rival {
   Contender contender;
   double goal;  // ours divided by this one, at the most

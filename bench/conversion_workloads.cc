@@ -18,10 +18,10 @@ constexpr std::size_t kMostBytesEach = 4;
 template <typename Unit>
 Contender raw(const char* to, const char* from,
               const std::basic_string<Unit>& text, std::string& room) {
-  return {"iconv", 1, [=, &text, &room] {
-            keep(peers::raw_iconv(to, from, text.data(),
-                                  text.size() * sizeof(Unit), room));
-          }};
+  return repeating("iconv", [=, &text, &room] {
+    return peers::raw_iconv(to, from, text.data(), text.size() * sizeof(Unit),
+                            room);
+  });
 }
 
 template <typename In, typename Out>
@@ -34,11 +34,11 @@ void compare_transcoder(const Table& table, const std::string& name,
   std::string room(kMostBytesEach * (text.size() + 1), '\0');
   const auto run = [&] {
     ours(text.data(), static_cast<unsigned>(text.size()), out);
-    keep(out);
+    return out.data();
   };
   constexpr double kGoal = 1.15;
   table.compare(name + ", " + std::to_string(text.size()) + " units",
-                {name, 1, run}, {{raw(to, from, text, room), kGoal}});
+                repeating(name, run), {{raw(to, from, text, room), kGoal}});
 }
 
 std::string utf8_of(const std::wstring& text) {
@@ -83,7 +83,7 @@ void compare_host(const Table& table, const std::string& name,
                   const char* to, const char* from, double goal) {
   std::string room(kMostBytesEach * (text.size() + 1), '\0');
   table.compare(name + ", " + std::to_string(text.size()) + " characters",
-                {name, 1, [&] { keep(convert(text)); }},
+                repeating(name, [&] { return convert(text); }),
                 {{raw(to, from, text, room), goal}});
 }
 
