@@ -128,6 +128,11 @@ inline void answer_number(const Arguments& arguments, double value) {
   arguments.GetReturnValue().Set(value);
 }
 
+// A whole number is the same value to a script, and made without a call.
+inline void answer_number(const Arguments& arguments, std::int32_t value) {
+  arguments.GetReturnValue().Set(value);
+}
+
 inline void answer_boolean(const Arguments& arguments, bool value) {
   arguments.GetReturnValue().Set(value);
 }
@@ -137,6 +142,8 @@ inline void answer(const Arguments& arguments, v8::Local<v8::Value> value) {
 }
 
 inline void answer_text(const Arguments& arguments, const char* utf8) {
+  // The empty text is at hand.
+  if (*utf8 == '\0') return arguments.GetReturnValue().SetEmptyString();
   answer(arguments, make_text(arguments.GetIsolate(), utf8));
 }
 
