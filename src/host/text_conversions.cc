@@ -1,4 +1,5 @@
 #include <string_view>
+#include <type_traits>
 
 #include "host/korvane_host.h"
 #include "text/iconv_conversion.h"
@@ -45,10 +46,19 @@ bool convert_bytes(const char* from, std::string_view bytes,
                  wide, qk::text::Ending::kFlushed);
 }
 
-bool is_ascii(std::string_view bytes) {
-  unsigned char seen = 0;
-  for (const char byte : bytes) seen |= static_cast<unsigned char>(byte);
-  return seen < 0x80;
+// Whether `text` is ASCII without a zero: the same in every encoding here. One
+// loop without a branch, so that the compiler looks at several units at once.
+template <typename Unit>
+bool is_plain(std::basic_string_view<Unit> text) {
+  using Code = std::conditional_t<sizeof(Unit) == 1, unsigned char, char32_t>;
+  Code seen = 0;
+  Code zeros = 0;
+  for (const Unit unit : text) {
+    const auto code = static_cast<Code>(unit);
+    seen |= code;
+    zeros |= code == 0 ? 1 : 0;
+  }
+  return seen < 0x80 && zeros == 0;
 }
 
 std::wstring decode_default(std::string_view bytes) {
@@ -71,27 +81,29 @@ std::wstring decode(std::string_view bytes, int code_page) {
   return wide;
 }
 
-}  // namespace
-
-std::string wstring_2_utf8(const std::wstring& text) {
+std::string to_utf8(std::wstring_view wide) {
+  if (is_plain(wide)) return {wide.begin(), wide.end()};
   std::string utf8;
-  encode_utf8(std::wstring_view(text).substr(0, text.find(L'\0')), utf8);
+  encode_utf8(wide.substr(0, wide.find(L'\0')), utf8);
   return utf8;
 }
 
-std::string wstring_2_string(const std::wstring& text) {
-  return wstring_2_utf8(text);
+std::wstring to_wide(std::string_view bytes, int code_page) {
+  if (is_plain(bytes)) return {bytes.begin(), bytes.end()};
+  return decode(bytes.substr(0, bytes.find('\0')), code_page);
 }
 
+}  // namespace
+
+std::string wstring_2_string(const std::wstring& text) { return to_utf8(text); }
+
+std::string wstring_2_utf8(const std::wstring& text) { return to_utf8(text); }
+
 std::wstring string_2_wstring(const std::string& text) {
-  return string_to_wstring_with_code_page(text, 0);
+  return to_wide(text, 0);
 }
 
 std::wstring string_to_wstring_with_code_page(const std::string& text,
                                               int code_page) {
-  const std::string_view bytes =
-      std::string_view(text).substr(0, text.find('\0'));
-  // Every code page here agrees with ASCII.
-  if (is_ascii(bytes)) return std::wstring(bytes.begin(), bytes.end());
-  return decode(bytes, code_page);
+  return to_wide(text, code_page);
 }
