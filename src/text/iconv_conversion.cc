@@ -2,6 +2,9 @@
 
 #include <iconv.h>
 
+#include <algorithm>
+#include <utility>
+
 namespace qk::text {
 namespace {
 
@@ -51,8 +54,8 @@ bool convert(const char* to, const char* from, const In* input,
       reinterpret_cast<const char*>(input), length * sizeof(In),
       reinterpret_cast<char*>(buffer.data()), room * sizeof(Out), ending);
   // A result that fills its room has no terminator: the room bounds it.
-  const std::size_t end = buffer.find(Out());
-  output.assign(buffer, 0, end);
+  buffer.resize(std::min(buffer.find(Out()), room));
+  output = std::move(buffer);
   return whole;
 }
 
