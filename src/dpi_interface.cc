@@ -8,8 +8,7 @@ double DPIInterface::GetMonitorDPIFactor() {
   constexpr double kMillimetresPerInch = 25.4;
   Display* display = XOpenDisplay(nullptr);
   if (display == nullptr) return 1.0;
-  // Not closed (kept: callers rely on a server that ends with its last client
-  // staying up).
+  // Left open (kept: hosts count on it).
   const int screen = DefaultScreen(display);
   const int pixels = DisplayWidth(display, screen);
   const int millimetres = DisplayWidthMM(display, screen);

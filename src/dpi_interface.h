@@ -10,8 +10,10 @@ class DPIInterface {
   // truncated to two decimal places: 1.33 for 128 DPI. 1.0 without a display
   // and for a screen without a physical size.
   //
-  // The display connection that a call opens stays open. A server takes some
-  // 250 of them; after that it refuses this process and the factor is 1.0.
+  // The display connection that a call opens stays open until the process ends.
+  // After some 250 calls the server refuses every new client of every program
+  // ("Maximum number of clients"): the factor is 1.0 and every operation of
+  // XWindow answers as without a display. Ask once and keep the answer.
   static double GetMonitorDPIFactor();
   // The same as GetMonitorDPIFactor.
   static double GetSysDPIFactor();

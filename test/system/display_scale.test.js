@@ -40,6 +40,18 @@ test('every question leaves one connection open', () => {
   assert.strictEqual(after - before, 2);
 });
 
+test('300 questions use up the server\'s connections, for windows too', () => {
+  const last = `(() => {
+    for (let i = 0; i < 300; i += 1) m.getSysDPIFactor();
+    return [m.getMonitorDPIFactor(), m.getDisplayWindowRect(),
+      m.System("xwininfo -root 2>&1")];
+  })()`;
+  const [factor, size, stranger] = evaluate(
+    [withDisplay, '--screen', '1920x1080x24', '--dpi', '192'], last);
+  assert.deepStrictEqual([factor, size], [1, { width: 0, height: 0 }]);
+  assert(/Maximum number of clients/.test(stranger), stranger);
+});
+
 test('without a display the factor is 1', () => {
   const nowhere = [['env', '-u', 'DISPLAY'], ['env', 'DISPLAY='],
     ['env', 'DISPLAY=:4294967'], ['env', 'DISPLAY=nowhere:0']];
