@@ -17,15 +17,19 @@
 class XWindow {
  public:
   // Bits of SetWindowPos; every other bit is ignored.
-  static constexpr std::uint32_t kKeepSize = 0x1;
-  static constexpr std::uint32_t kKeepPosition = 0x2;
-  static constexpr std::uint32_t kShow = 0x40;
-  static constexpr std::uint32_t kHide = 0x80;  // not with kShow
+  enum Flag : std::uint32_t {
+    kKeepSize = 0x1,
+    kKeepPosition = 0x2,
+    kShow = 0x40,
+    kHide = 0x80,  // not with kShow
+  };
 
   // Commands of ShowWindow; every other command does nothing.
-  static constexpr int kCommandHide = 0;
-  static constexpr int kCommandMaximise = 3;
-  static constexpr int kCommandShow = 5;
+  enum Command : std::int32_t {
+    kCommandHide = 0,
+    kCommandMaximise = 3,
+    kCommandShow = 5,
+  };
 
   // Moves, resizes, shows or hides a window and puts `insert_after` (0: none)
   // directly beneath it. Answers the X library's status of the move or resize,
@@ -64,7 +68,8 @@ class XWindow {
   // and its size is at least the screen's.
   static bool IsInFullScreen();
 
-  // The size of the default screen.
+  // The size of the default screen. True also when the root window's attributes
+  // name no screen; nothing is written then.
   static bool GetDisplayWindowRect(int& width, int& height);
 
   // The pointer's position on the default screen; writes nothing without a
