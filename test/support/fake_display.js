@@ -6,10 +6,12 @@
 // descriptor 3 and reads one line of answer from descriptor 4:
 //   KEY VALUE  sets a number: of `told`, or "refuse", "close_at", "hold_at",
 //              the request code that is answered with an error, ends the
-//              connection, or waits until another number is set
+//              connection, or waits until another number is set, or "setup",
+//              one of the answers to a new connection
 //   next       the requests of the oldest connection not told yet, without
 //              those of opening and closing; waits until it has ended
 //   held       waits until a request waits
+// An answer that takes more than 20 seconds ends the command.
 
 const fs = require('fs');
 const net = require('net');
@@ -18,8 +20,7 @@ const { spawn } = require('child_process');
 
 const root = 0x100;
 const told = {
-  width: 1280, height: 1024, width_mm: 339,             // the screen
-  root, x: 0, y: 0, w: 1, h: 1, properties: 1,          // every window
+  setup: 0, root, x: 0, y: 0, w: 1, h: 1, properties: 1,  // every window
   translated_x: 0, translated_y: 0, same_screen: 1,
   focus: 0, pointer_x: 0, pointer_y: 0,
 };
@@ -55,8 +56,9 @@ const replies = {
   21: () => [0, half(told.properties), zeros(22 + 4 * told.properties)],
   38: () => [1, word(root), zeros(4), half(-1), half(-1),
     half(told.pointer_x), half(told.pointer_y), zeros(8)],
-  40: () => [told.same_screen, zeros(4), half(told.translated_x),
-    half(told.translated_y), zeros(16)],
+  40: (request) => [
+    request.readUInt32LE(8) === told.root ? told.same_screen : 0, zeros(4),
+    half(told.translated_x), half(told.translated_y), zeros(16)],
   43: () => [0, word(told.focus), zeros(20)],
   44: () => [0, zeros(32)],
   98: () => [0, zeros(24)],
@@ -64,18 +66,32 @@ const replies = {
   119: () => [1, zeros(32)],
 };
 
+const screen = (id, width, height) => Buffer.concat([
+  word(id), word(0x20), zeros(12), half(width), half(height), half(339),
+  half(271), half(1), half(1), word(0x21), zeros(2),
+  byte(24), byte(1), byte(24), byte(0), half(1), zeros(4),     // one depth
+  word(0x21), byte(4), byte(8), half(256), zeros(16)]);        // one visual
+
 function setup() {
   const body = Buffer.concat([
     zeros(4), word(0x400000), word(0x1fffff), zeros(4), half(0), half(-1),
-    byte(1), byte(1), zeros(2), byte(32), byte(32), byte(8), byte(255),
+    byte(2), byte(1), zeros(2), byte(32), byte(32), byte(8), byte(255),
     zeros(4), byte(24), byte(32), byte(32), zeros(5),          // one format
-    word(root), word(0x20), zeros(12), half(told.width), half(told.height),
-    half(told.width_mm), half(271), half(1), half(1), word(0x21), zeros(2),
-    byte(24), byte(1), byte(24), byte(0), half(1), zeros(4),   // one depth
-    word(0x21), byte(4), byte(8), half(256), zeros(16)]);      // one visual
+    screen(root, 1280, 1024), screen(root + 1, 800, 600)]);
   return Buffer.concat(
     [byte(1), byte(0), half(11), half(0), half(body.length / 4), body]);
 }
+
+// What a new connection is told, by `told.setup`; all but the first close it.
+const setups = [
+  setup,
+  () => zeros(0),
+  () => setup().slice(0, 5),
+  () => setup().slice(0, 60),
+  () => Buffer.from('\0\x07\x0b\0\0\0\x02\0refused\0', 'latin1'),
+  () => Buffer.from('\x02\0\0\0\0\0\x02\0who goes', 'latin1'),
+  () => Buffer.from('HTTP/1.1 400 Bad Request\r\n\r\n'),
+];
 
 // A request as text: its name, then an atom's name or the request's words.
 function describe(request) {
@@ -130,9 +146,11 @@ function serve(socket) {
         noting = noting && code !== freeContext;
         if (noting && !opening.includes(code)) requests.push(describe(request));
       }
-      sequence += 1;
-      socket.write(sequence === 0 ? setup() : answer(request, sequence));
       unread = unread.slice(size);
+      sequence += 1;
+      if (sequence > 0) socket.write(answer(request, sequence));
+      else if (told.setup === 0) socket.write(setup());
+      else { socket.end(setups[told.setup]()); return; }
     }
   };
   socket.on('data', (bytes) => {
@@ -156,18 +174,35 @@ function obey(line, tell) {
 }
 
 const folder = '/tmp/.X11-unix';  // where the X library looks
-if (!fs.existsSync(folder)) fs.mkdirSync(folder);
+try {
+  fs.mkdirSync(folder);
+  fs.chmodSync(folder, 0o1777);  // every user's servers make sockets there
+} catch (error) {
+  if (error.code !== 'EEXIST') throw error;
+}
 let number = 1000;
 const server = net.createServer(serve);
 const listen = () => server.listen(`${folder}/X${number}`);
-server.on('error', () => { number += 1; listen(); });  // taken: the next one
+server.on('error', (error) => {
+  if (error.code !== 'EADDRINUSE') throw error;
+  number += 1;
+  listen();
+});
 server.on('listening', () => {
   const child = spawn(process.argv[2], process.argv.slice(3), {
     stdio: ['inherit', 'inherit', 'inherit', 'pipe', 'pipe'],
     env: Object.assign({}, process.env, { DISPLAY: `:${number}` }),
   });
-  readline.createInterface({ input: child.stdio[3] }).on('line', (line) => (
-    obey(line, (text) => child.stdio[4].write(`${text}\n`))));
+  readline.createInterface({ input: child.stdio[3] }).on('line', (line) => {
+    const limit = setTimeout(() => {
+      console.error(`fake_display: no answer to "${line}" in 20 s`);
+      child.kill('SIGKILL');
+    }, 20000);
+    obey(line, (text) => {
+      clearTimeout(limit);
+      child.stdio[4].write(`${text}\n`);
+    });
+  });
   child.on('exit', (code) => {
     process.exitCode = code === null ? 1 : code;
     server.close(() => process.exit());

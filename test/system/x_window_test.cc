@@ -5,9 +5,12 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <climits>
 #include <cstdlib>
 #include <filesystem>
 #include <future>
+#include <string>
+#include <vector>
 
 // Last: their macros are words of other headers.
 #include <X11/Xlib.h>
@@ -42,6 +45,7 @@ int number(bool answer) { return answer ? 1 : 0; }
 
 void set_pos(Outcome& o) { o[0] = XWindow::SetWindowPos(5, 6, 1, 2, 3, 4, 64); }
 void hide(Outcome& o) { o[0] = number(XWindow::ShowWindow(5, 0)); }
+void show(Outcome& o) { o[0] = number(XWindow::ShowWindow(5, 5)); }
 void maximise(Outcome& o) { o[0] = number(XWindow::ShowWindow(5, 3)); }
 void is_window(Outcome& o) { o[0] = number(XWindow::IsWindow(5)); }
 void to_top(Outcome& o) { o[0] = number(XWindow::BringWindowToTop(5)); }
@@ -61,6 +65,7 @@ void screen(Outcome& o) {
 constexpr Operation kOperations[] = {
     {"SetWindowPos", set_pos, {X_ConfigureWindow, X_MapWindow}},
     {"ShowWindow(hide)", hide, {X_UnmapWindow}},
+    {"ShowWindow(show)", show, {X_MapWindow}},
     {"ShowWindow(maximise)", maximise, {X_InternAtom, X_SendEvent}},
     {"IsWindow", is_window, {X_ListProperties}},
     {"BringWindowToTop", to_top, {X_ConfigureWindow}},
@@ -84,13 +89,6 @@ Outcome run(void (*call)(Outcome&)) {
   return outcome;
 }
 
-int refusals = 0;
-
-int count_refusal(Display*, XErrorEvent*) {
-  ++refusals;
-  return 0;
-}
-
 class XWindowTest : public testing::Test {
  protected:
   XWindowTest() {
@@ -99,17 +97,59 @@ class XWindowTest : public testing::Test {
     set("h", 1024);
   }
   ~XWindowTest() override { XSetErrorHandler(nullptr); }
+
+  static void expect_nothing(const std::string& where) {
+    for (const Operation& operation : kOperations) {
+      Outcome want = kNothing;
+      if (operation.call == key || operation.call == button) want[0] = 1;
+      EXPECT_EQ(run(operation.call), want) << operation.name << where;
+    }
+  }
+
+  static int count_refusal(Display*, XErrorEvent*) {
+    ++refusals;
+    return 0;
+  }
+
+  static int refusals;
+};
+
+int XWindowTest::refusals = 0;
+
+// Sets DISPLAY (null: to nothing) as long as it lives.
+class Elsewhere {
+ public:
+  explicit Elsewhere(const char* display) : here_(XDisplayName(nullptr)) {
+    display == nullptr ? unsetenv("DISPLAY") : setenv("DISPLAY", display, 1);
+  }
+  Elsewhere(const Elsewhere&) = delete;
+  Elsewhere& operator=(const Elsewhere&) = delete;
+  ~Elsewhere() { setenv("DISPLAY", here_.c_str(), 1); }
+
+ private:
+  std::string here_;
 };
 
 TEST_F(XWindowTest, WritesNothingWithoutADisplay) {
-  const std::string display = XDisplayName(nullptr);
-  unsetenv("DISPLAY");
-  for (const Operation& operation : kOperations) {
-    Outcome want = kNothing;
-    if (operation.call == key || operation.call == button) want[0] = 1;
-    EXPECT_EQ(run(operation.call), want) << operation.name;
+  const Elsewhere nowhere(nullptr);
+  expect_nothing(" without DISPLAY");
+}
+
+TEST_F(XWindowTest, WritesNothingWhereTheDisplayLetsNobodyIn) {
+  // Closed at once, after a part of the answer, refused, asked for more, and
+  // by what is no display.
+  for (const int setup : {1, 2, 3, 4, 5, 6}) {
+    set("setup", setup);
+    expect_nothing(" at set-up " + std::to_string(setup));
   }
-  setenv("DISPLAY", display.c_str(), 1);
+  set("setup", 0);
+}
+
+TEST_F(XWindowTest, ShowWindowTellsOnlyOfTheTwoCommandsItCarriesOut) {
+  for (const int command : {INT_MIN, -1, 0, 1, 2, 3, 4, 5, 6, 9, INT_MAX}) {
+    EXPECT_EQ(XWindow::ShowWindow(5, command), command == 0 || command == 5)
+        << command;
+  }
 }
 
 TEST_F(XWindowTest, TellsARefusedRequestFromOneThatWasNot) {
@@ -148,11 +188,44 @@ TEST_F(XWindowTest, KnowsAWindowOnAnotherScreen) {
   set("same_screen", 0);
   EXPECT_EQ(run(rectangle), (Outcome{0, -3, 0, -9, -9}));
   EXPECT_EQ(run(full_screen), kNothing);
-  set("root", 0x999);
+  set("same_screen", 1);
+  set("root", 0x101);  // the position is one on the window's own screen
+  EXPECT_EQ(run(rectangle), (Outcome{1, -3, 0, 1280, 1024}));
+  EXPECT_EQ(run(full_screen), (Outcome{1, -9, -9, -9, -9}));
+  set("root", 0x999);  // of no screen
   EXPECT_EQ(run(screen), (Outcome{1, -9, -9, -9, -9}));
   set("root", 0x100);
-  set("same_screen", 1);
   set("translated_x", 0);
+}
+
+TEST_F(XWindowTest, TakesTheScreenThatTheDisplayNames) {
+  const Elsewhere second((std::string(XDisplayName(nullptr)) + ".1").c_str());
+  set("root", 0x101);
+  EXPECT_EQ(run(screen), (Outcome{1, 800, 600, -9, -9}));
+  struct {
+    int width, height;
+    bool want;
+  } const cases[] = {{800, 600, true}, {799, 600, false}, {800, 599, false}};
+  for (const auto& row : cases) {
+    set("w", row.width);
+    set("h", row.height);
+    EXPECT_EQ(XWindow::IsInFullScreen(), row.want) << row.width;
+  }
+  set("root", 0x100);
+}
+
+TEST_F(XWindowTest, AnswersFourThreadsAtOnce) {
+  std::vector<std::future<int>> threads;
+  for (int thread = 0; thread < 4; ++thread) {
+    threads.push_back(std::async(std::launch::async, [] {
+      int good = 0;
+      for (int call = 0; call < 50; ++call) {
+        if (run(rectangle) == Outcome{1, 0, 0, 1280, 1024}) ++good;
+      }
+      return good;
+    }));
+  }
+  for (auto& thread : threads) EXPECT_EQ(thread.get(), 50);
 }
 
 TEST_F(XWindowTest, LeavesTheErrorHandlersAlone) {
@@ -184,19 +257,13 @@ TEST_F(XWindowTest, EndsTheProcessWhenTheConnectionBreaks) {
 }
 
 TEST_F(XWindowTest, WaitsAsLongAsTheServerTakes) {
-  for (const Operation& operation : kOperations) {
-    for (const int request : operation.requests) {
-      if (request == 0) continue;
-      set("hold_at", request);
-      auto call = std::async(std::launch::async, run, operation.call);
-      ask("held");
-      EXPECT_EQ(call.wait_for(std::chrono::seconds(0)),
-                std::future_status::timeout)
-          << operation.name << " at " << request;
-      set("hold_at", 0);
-      call.wait();
-    }
-  }
+  set("hold_at", X_GetGeometry);
+  auto call = std::async(std::launch::async, run, rectangle);
+  ask("held");
+  EXPECT_EQ(call.wait_for(std::chrono::seconds(0)),
+            std::future_status::timeout);
+  set("hold_at", 0);
+  EXPECT_EQ(call.get(), (Outcome{1, 0, 0, 1280, 1024}));
 }
 
 TEST_F(XWindowTest, LeavesNoDescriptorAfter10000Calls) {
