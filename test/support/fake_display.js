@@ -24,7 +24,6 @@ const told = {
   translated_x: 0, translated_y: 0, same_screen: 1,
   focus: 0, pointer_x: 0, pointer_y: 0,
 };
-let atom = 0x200;
 
 const field = (size, value = 0) => {
   const bytes = Buffer.alloc(size);
@@ -35,6 +34,14 @@ const byte = (value) => field(1, value);
 const half = (value) => field(2, value);
 const word = (value) => field(4, value);
 const zeros = (count) => field(count);
+
+const atoms = [];  // their names; the first is 0x200
+const nameOf = (request) => (
+  request.toString('latin1', 8, 8 + request.readUInt16LE(4)));
+function numberOf(name) {
+  if (!atoms.includes(name)) atoms.push(name);
+  return 0x200 + atoms.indexOf(name);
+}
 
 // What the X library asks to open and to close a connection is not noted.
 const freeContext = 60;
@@ -51,7 +58,7 @@ const replies = {
   3: () => [0, word(0x21), half(1), zeros(30)],
   14: () => [24, word(told.root), half(told.x), half(told.y), half(told.w),
     half(told.h), zeros(12)],
-  16: () => { atom += 1; return [0, word(atom - 1), zeros(20)]; },
+  16: (request) => [0, word(numberOf(nameOf(request))), zeros(20)],
   20: () => [0, zeros(24)],
   21: () => [0, half(told.properties), zeros(22 + 4 * told.properties)],
   38: () => [1, word(root), zeros(4), half(-1), half(-1),
@@ -98,9 +105,7 @@ function describe(request) {
   const [code, flag] = request;
   const parts = [names[code] || `request ${code}`];
   if ((code === 16 || code === 25) && flag !== 0) parts.push('flagged');
-  if (code === 16) {
-    parts.push(request.toString('latin1', 8, 8 + request.readUInt16LE(4)));
-  }
+  if (code === 16) parts.push(nameOf(request));
   for (let at = 4; code !== 16 && at < request.length; at += 4) {
     const mask = code === 12 && at === 8;  // the rest of this word is padding
     parts.push(request.readUIntLE(at, mask ? 2 : 4).toString(16));
