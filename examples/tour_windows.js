@@ -12,39 +12,47 @@ const picture = path.resolve(process.argv[3]);
 const run = (command, ...args) => (
   execFileSync(command, args.map(String), { encoding: 'utf8', timeout: 20000 }));
 
-// Starts a program that ends with the tour; its window, once that is shown.
+// Starts a program that ends with the tour; its window, once that is shown. The
+// title is like no other's, so that no window of the user's is taken for it.
 function start(program, ...args) {
-  const child = spawn(program, args, { stdio: 'ignore' });
+  const title = `${program} of tour ${process.pid}`;
+  const child = spawn(program, ['-title', title, ...args], { stdio: 'ignore' });
   process.on('exit', () => child.kill());
-  const found = run('xdotool', 'search', '--sync', '--onlyvisible', '--class',
-    program);
-  return Number(found.trim().split('\n').pop());
+  return Number(run('xdotool', 'search', '--sync', '--onlyvisible', '--name',
+    `^${title}$`));
 }
 
 // Another client's view of a window.
-function serverSays(id) {
+function placeOf(id) {
   const text = run('xwininfo', '-id', id);
   const number = (label) => Number(text.match(`${label}: +(-?\\d+)`)[1]);
-  return {
-    x: number('Absolute upper-left X'), y: number('Absolute upper-left Y'),
-    width: number('Width'), height: number('Height'),
-    shown: /Map State: IsViewable/.test(text),
-  };
+  const [x, y] = ['X', 'Y'].map((axis) => number(`Absolute upper-left ${axis}`));
+  const [width, height] = [number('Width'), number('Height')];
+  const shown = /Map State: IsViewable/.test(text);
+  return { x, y, width, height, shown, text: `${width}x${height} at ${x},${y}, ` +
+    `${shown ? 'shown' : 'hidden'}` };
+}
+
+// Another client's view of which window lies above which.
+function orderOf(ids) {
+  const tree = run('xwininfo', '-root', '-tree');  // top first, frames opened
+  const depth = (id) => tree.indexOf(` 0x${id.toString(16)} `);
+  const order = [...ids].sort((one, two) => depth(one) - depth(two));
+  return { top: order[0], text: `from the top ${order.join(', ')}` };
 }
 
 const heading = (text) => console.log(`\n${text}`);
 const line = (label, value) => console.log(`  ${label.padEnd(48)} ${value}`);
 
 // Calls a function; a window manager, where there is one, takes its time, so
-// the server is asked until `done` holds.
-function call(name, args, id, done) {
+// another client looks until `done` holds.
+function call(name, args, look, done) {
   line(`${name}(${args.join(', ')})`, JSON.stringify(helper[name](...args)));
-  if (!done) return;
+  if (!look) return;
   const limit = Date.now() + 5000;
-  let now = serverSays(id);
-  while (!done(now) && Date.now() < limit) now = serverSays(id);
-  line('  the server says', `${now.width}x${now.height} at ` +
-    `${now.x},${now.y}, ${now.shown ? 'shown' : 'hidden'}`);
+  let now = look();
+  while (!done(now) && Date.now() < limit) now = look();
+  line('  the server says', now.text);
 }
 
 heading('The display, as the module sees it');
@@ -60,17 +68,20 @@ call('isWindowHandle', [clock]);
 call('getWindowRect', [clock]);
 
 heading('The clock moves, grows, hides and comes back');
-call('moveWindow', [clock, 80, 100, 200, 200, true], clock,
-  (now) => now.x >= 80 && now.y >= 100);
-call('setWindowPos', [clock, 0, 0, 0, 260, 260, 2], clock,
-  (now) => now.width === 260 && now.height === 260);
-call('showWindow', [clock, 0], clock, (now) => !now.shown);
-call('showWindow', [clock, 5], clock, (now) => now.shown);
-call('setWindowPos', [clock, 0, 60, 160, 360, 360, 0x40], clock,
-  (now) => now.width === 360 && now.y >= 160);
+const look = () => placeOf(clock);
+const is = (x, y, size) => (now) => now.x >= x && now.y >= y &&
+  now.width === size && now.height === size;
+call('moveWindow', [clock, 80, 100, 220, 220, true], look, is(80, 100, 220));
+call('setWindowPos', [clock, 0, 0, 0, 260, 260, 2], look, is(80, 100, 260));
+call('showWindow', [clock, 0], look, (now) => !now.shown);
+call('showWindow', [clock, 5], look, (now) => now.shown);
+call('setWindowPos', [clock, 0, 60, 160, 360, 360, 0x40], look,
+  is(60, 160, 360));
 
 heading('The calculator rises above it');
-call('bringWindowToTop', [calculator], calculator, () => true);
+const order = () => orderOf([calculator, clock]);
+line('before, the server says', order().text);
+call('bringWindowToTop', [calculator], order, (now) => now.top === calculator);
 call('getWindowRect', [calculator]);
 
 heading('No window, no harm');
