@@ -53,7 +53,8 @@ export function uninitGDIPlus(...ignored: unknown[]): undefined;
 
 /**
  * How much larger than the reference DPI the display is: its width in pixels
- * for each inch, over the reference.
+ * for each inch, over the reference. Ask once and keep the answer: every call
+ * leaves one of the server's connections taken until the process ends.
  *
  * @returns two decimal places, cut off and not rounded; 1 without a display,
  *   and for a display without a physical size
