@@ -55,11 +55,6 @@ class DisplayClient {
     wait_until([&] { return is_shown(window); });
   }
 
-  void destroy(Window window) const {
-    XDestroyWindow(display(), window);
-    XSync(display(), False);
-  }
-
   Rectangle rectangle(Window window) const {
     const XWindowAttributes found = attributes(window);
     return {found.x, found.y, found.width, found.height};
@@ -67,11 +62,12 @@ class DisplayClient {
 
   // The window's inside, in root coordinates.
   Rectangle rectangle_on_root(Window window) const {
-    Rectangle place = rectangle(window);
+    const XWindowAttributes found = attributes(window);
+    int x = 0;
+    int y = 0;
     Window child = None;
-    XTranslateCoordinates(display(), window, root(), 0, 0, &place[0], &place[1],
-                          &child);
-    return place;
+    XTranslateCoordinates(display(), window, root(), 0, 0, &x, &y, &child);
+    return {x, y, found.width, found.height};
   }
 
   bool is_shown(Window window) const {

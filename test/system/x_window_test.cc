@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <future>
 #include <string>
-#include <vector>
+#include <tuple>
 
 // Last: their macros are words of other headers.
 #include <X11/Xlib.h>
@@ -98,14 +98,6 @@ class XWindowTest : public testing::Test {
   }
   ~XWindowTest() override { XSetErrorHandler(nullptr); }
 
-  static void expect_nothing(const std::string& where) {
-    for (const Operation& operation : kOperations) {
-      Outcome want = kNothing;
-      if (operation.call == key || operation.call == button) want[0] = 1;
-      EXPECT_EQ(run(operation.call), want) << operation.name << where;
-    }
-  }
-
   static int count_refusal(Display*, XErrorEvent*) {
     ++refusals;
     return 0;
@@ -116,31 +108,16 @@ class XWindowTest : public testing::Test {
 
 int XWindowTest::refusals = 0;
 
-// Sets DISPLAY (null: to nothing) as long as it lives.
-class Elsewhere {
- public:
-  explicit Elsewhere(const char* display) : here_(XDisplayName(nullptr)) {
-    display == nullptr ? unsetenv("DISPLAY") : setenv("DISPLAY", display, 1);
-  }
-  Elsewhere(const Elsewhere&) = delete;
-  Elsewhere& operator=(const Elsewhere&) = delete;
-  ~Elsewhere() { setenv("DISPLAY", here_.c_str(), 1); }
-
- private:
-  std::string here_;
-};
-
-TEST_F(XWindowTest, WritesNothingWithoutADisplay) {
-  const Elsewhere nowhere(nullptr);
-  expect_nothing(" without DISPLAY");
-}
-
 TEST_F(XWindowTest, WritesNothingWhereTheDisplayLetsNobodyIn) {
   // Closed at once, after a part of the answer, refused, asked for more, and
   // by what is no display.
   for (const int setup : {1, 2, 3, 4, 5, 6}) {
     set("setup", setup);
-    expect_nothing(" at set-up " + std::to_string(setup));
+    for (const Operation& operation : kOperations) {
+      Outcome want = kNothing;
+      if (operation.call == key || operation.call == button) want[0] = 1;
+      EXPECT_EQ(run(operation.call), want) << operation.name << " at " << setup;
+    }
   }
   set("setup", 0);
 }
@@ -199,31 +176,31 @@ TEST_F(XWindowTest, KnowsAWindowOnAnotherScreen) {
 }
 
 TEST_F(XWindowTest, TakesTheScreenThatTheDisplayNames) {
-  const Elsewhere second((std::string(XDisplayName(nullptr)) + ".1").c_str());
+  const std::string first = XDisplayName(nullptr);
+  setenv("DISPLAY", (first + ".1").c_str(), 1);
   set("root", 0x101);
   EXPECT_EQ(run(screen), (Outcome{1, 800, 600, -9, -9}));
-  struct {
-    int width, height;
-    bool want;
-  } const cases[] = {{800, 600, true}, {799, 600, false}, {800, 599, false}};
-  for (const auto& row : cases) {
-    set("w", row.width);
-    set("h", row.height);
-    EXPECT_EQ(XWindow::IsInFullScreen(), row.want) << row.width;
+  const std::tuple<int, int, bool> cases[] = {
+      {800, 600, true}, {799, 600, false}, {800, 599, false}};
+  for (const auto& [width, height, want] : cases) {
+    set("w", width);
+    set("h", height);
+    EXPECT_EQ(XWindow::IsInFullScreen(), want) << width << "x" << height;
   }
   set("root", 0x100);
+  setenv("DISPLAY", first.c_str(), 1);
 }
 
 TEST_F(XWindowTest, AnswersFourThreadsAtOnce) {
-  std::vector<std::future<int>> threads;
-  for (int thread = 0; thread < 4; ++thread) {
-    threads.push_back(std::async(std::launch::async, [] {
+  std::array<std::future<int>, 4> threads;
+  for (auto& thread : threads) {
+    thread = std::async(std::launch::async, [] {
       int good = 0;
       for (int call = 0; call < 50; ++call) {
         if (run(rectangle) == Outcome{1, 0, 0, 1280, 1024}) ++good;
       }
       return good;
-    }));
+    });
   }
   for (auto& thread : threads) EXPECT_EQ(thread.get(), 50);
 }
