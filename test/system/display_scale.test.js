@@ -52,6 +52,15 @@ test('300 questions use up the server\'s connections, for windows too', () => {
   assert(/Maximum number of clients/.test(stranger), stranger);
 });
 
+test('a display that refuses the cookie is none', () => {
+  const wrong = 'xauth -q add $DISPLAY . 0123 && exec "$@"';
+  const got = evaluate([withDisplay, 'sh', '-c', wrong, 'sh'],
+    `[${both}, m.getDisplayWindowRect(), m.getCursorPos(), m.getWindowRect(9),
+      m.isWindowHandle(9), m.bringWindowToTop(9), m.getKeyState(9)]`);
+  assert.deepStrictEqual(got, [[1, 1], { width: 0, height: 0 }, { x: 0, y: 0 },
+    { x: 0, y: 0, width: 0, height: 0 }, false, false, 1]);
+});
+
 test('without a display the factor is 1', () => {
   const nowhere = [['env', '-u', 'DISPLAY'], ['env', 'DISPLAY='],
     ['env', 'DISPLAY=:4294967'], ['env', 'DISPLAY=nowhere:0']];
