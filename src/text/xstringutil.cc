@@ -12,7 +12,6 @@ namespace {
 
 using qk::text::hex_value;
 using qk::text::kLowerHexDigits;
-using qk::text::kNoHexDigit;
 using qk::text::kUpperHexDigits;
 
 constexpr char kBlanks[] = " \t";
@@ -193,7 +192,7 @@ std::string UnescapeString(const std::string& s) {
     if (s.size() - i < 3) return {};
     const unsigned high = hex_value(s[i + 1]);
     const unsigned low = hex_value(s[i + 2]);
-    if (((high | low) & kNoHexDigit) != 0) return {};
+    if (!qk::text::is_digit_value(high | low)) return {};
     text += static_cast<char>(high << 4 | low);
     i += 2;
   }

@@ -6,12 +6,12 @@
 #include <limits>
 #include <string_view>
 
-#include "url/digit_tables.h"
+#include "text/digit_tables.h"
 #include "url/korvane_links.h"
 
 namespace {
 
-using namespace qk::url;
+using namespace qk::text;
 
 constexpr std::string_view kAlphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";

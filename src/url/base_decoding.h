@@ -6,37 +6,33 @@
 #include <cstdint>
 #include <string_view>
 
-#include "url/digit_tables.h"
+#include "text/hex_digits.h"
 
 namespace qk::url {
 
-constexpr std::string_view kBase32Alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ234567";
+using text::DigitValues;
+using text::is_digit_value;
+using text::value_of;
 
-constexpr DigitValues make_hex_values() {
-  DigitValues values = make_digit_values("0123456789");
-  set_values(values, "ABCDEF", 10);
-  set_values(values, "abcdef", 10);
-  return values;
-}
+constexpr std::string_view kBase32Alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ234567";
 
 // Kept: callers rely on the characters between "9" and "A" counting as 9.
 constexpr DigitValues make_base16_values() {
-  DigitValues values = make_hex_values();
+  DigitValues values = text::kHexValues;
   for (unsigned char unit = '9' + 1; unit < 'A'; ++unit) values[unit] = 9;
   return values;
 }
 
 constexpr DigitValues make_base32_values() {
-  DigitValues values = make_digit_values(kBase32Alphabet);
-  set_values(values, "abcdefghijklmnopqrstuvwxyz", 0);
+  DigitValues values = text::make_digit_values(kBase32Alphabet);
+  text::set_values(values, "abcdefghijklmnopqrstuvwxyz", 0);
   return values;
 }
 
-inline constexpr DigitValues kHexValues = make_hex_values();
 inline constexpr DigitValues kBase16Values = make_base16_values();
 inline constexpr DigitValues kBase32Values = make_base32_values();
 inline constexpr DigitValues kUpperBase32Values =
-    make_digit_values(kBase32Alphabet);
+    text::make_digit_values(kBase32Alphabet);
 
 constexpr std::size_t kBase32GroupDigits = 8;
 constexpr std::size_t kBase32GroupBytes = 5;

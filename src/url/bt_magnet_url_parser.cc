@@ -73,7 +73,7 @@ bool decode_info_hash(std::basic_string_view<Unit> digits, Link& link) {
   if (digits.size() != kBase16Digits) return false;
   auto* hash = link.info_hash();
   std::fill_n(hash, kHashSize, '\0');
-  decode_base16_pairs(kHexValues, digits.data(), kHashSize, hash);
+  decode_base16_pairs(qk::text::kHexValues, digits.data(), kHashSize, hash);
   return true;
 }
 

@@ -6,13 +6,14 @@
 #include <cstring>
 #include <string_view>
 
+#include "text/digit_tables.h"
 #include "text/hex_digits.h"
 #include "url/base_decoding.h"
-#include "url/digit_tables.h"
 #include "url/percent_coding.h"
 
 namespace {
 
+using namespace qk::text;
 using namespace qk::url;
 
 constexpr DigitPairs<16> kBase16Pairs =

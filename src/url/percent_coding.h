@@ -21,7 +21,7 @@ constexpr unsigned escape_at(std::basic_string_view<Unit> text,
   if (text.size() - position <= 2) return kNoEscape;
   const unsigned high = text::hex_value(text[position + 1]);
   const unsigned low = text::hex_value(text[position + 2]);
-  return (high | low) < text::kNoHexDigit ? high << 4 | low : kNoEscape;
+  return text::is_digit_value(high | low) ? high << 4 | low : kNoEscape;
 }
 
 // Which escapes a decoder leaves as they stand.

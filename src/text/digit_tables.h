@@ -1,7 +1,7 @@
 // Tables for texts of digits that carry 4, 5 or 6 bits each: pairs of digits
 // to write two at a time, and values to read with one look-up a digit.
-#ifndef KORVANE_URL_DIGIT_TABLES_H_
-#define KORVANE_URL_DIGIT_TABLES_H_
+#ifndef KORVANE_TEXT_DIGIT_TABLES_H_
+#define KORVANE_TEXT_DIGIT_TABLES_H_
 
 #include <array>
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 #include "text/code_of.h"
 
-namespace qk::url {
+namespace qk::text {
 
 // Every pair of the first `radix` characters of `alphabet`, in order of value.
 template <std::size_t radix>
@@ -49,10 +49,10 @@ constexpr bool is_digit_value(unsigned value) {
 
 template <typename Unit>
 constexpr unsigned value_of(const DigitValues& values, Unit unit) {
-  const std::uint32_t code = text::code_of(unit);
+  const std::uint32_t code = code_of(unit);
   return code < values.size() ? values[code] : kNoDigit;
 }
 
-}  // namespace qk::url
+}  // namespace qk::text
 
-#endif  // KORVANE_URL_DIGIT_TABLES_H_
+#endif  // KORVANE_TEXT_DIGIT_TABLES_H_
