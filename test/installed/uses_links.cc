@@ -11,6 +11,7 @@ int main() {
   const ed2k_file_link file(name, 100, {});
   std::string link;
   file.get_ed2k_url(link, 0);
-  std::printf("%d %ls %s\n", parsed ? 1 : 0, url.to_string().c_str(), link.c_str());
+  std::printf("%d %ls %s\n", parsed ? 1 : 0, url.to_string().c_str(),
+              link.c_str());
   return 0;
 }
