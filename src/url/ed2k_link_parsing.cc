@@ -359,6 +359,7 @@ struct ed2k_file_link::all_fields {
 
 bool ed2k_file_link::create_from_ed2k_url(const std::wstring& url) {
   // `url` may be a member of this object, which is written field by field.
+  // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
   const std::wstring link = url;
   all_fields fields{*this, {}};
   return read_link(link, fields);
