@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "allocation_counter.h"
-#include "case_file.h"
 #include "exact_copy.h"
+#include "rows.h"
 #include "url/encoders.h"
 #include "url/korvane_links.h"
 
@@ -47,13 +47,6 @@ std::pair<long, std::string> c_answer(const std::wstring& url) {
   return {code, {hash.begin(), hash.end()}};
 }
 
-// Texts that the rows of magnet_links.txt name.
-CaseNames names() {
-  return {{"$base16", as_in_case(kBase16, {})},
-          {"$base32", as_in_case(kBase32, {})},
-          {"$hash", kHash}};
-}
-
 struct Parsed {
   explicit Parsed(const std::wstring& url)
       : link(url), valid(link.parse_magnet_url()) {
@@ -64,7 +57,7 @@ struct Parsed {
     EXPECT_EQ(link.get_url(), url);
   }
   // Whether it is a link, and its fields other than an info hash of kHash.
-  std::string description() const {
+  std::wstring description() const {
     std::wostringstream out;
     out << (valid ? "yes" : link.has_info_hash() ? "no, but a hash" : "no");
     if (hash() != kHash) out << " hash=" << hash().c_str();
@@ -72,7 +65,7 @@ struct Parsed {
       out << " name=" << link.get_display_name();
     }
     for (const auto& tracker : link.get_trackers()) out << " tr=" << tracker;
-    return as_in_case(out.str(), names());
+    return out.str();
   }
   std::string hash() const {
     return encode_base16(link.get_info_hash().data(),
@@ -82,20 +75,9 @@ struct Parsed {
   bool valid;
 };
 
-TEST(MagnetLink, IsFreshBeforeItIsParsed) {
-  const bt_magnet_url_parser link(kLink);
-  EXPECT_EQ(link.get_url(), kLink);
-  EXPECT_EQ(link.get_info_hash(), "");
-  EXPECT_EQ(link.get_display_name(), L"");
-  EXPECT_TRUE(link.get_trackers().empty());
-  EXPECT_FALSE(link.has_info_hash());
-}
-
 TEST(MagnetLink, ReadsWhatEachRowWants) {
-  const std::vector<Case> cases = read_cases("magnet_links.txt", names());
-  EXPECT_GT(cases.size(), 50U);
-  for (const Case& test : cases) {
-    EXPECT_EQ(Parsed(test.input).description(), test.want) << test.row;
+  for (const Row& row : rows_of("magnet links")) {
+    EXPECT_EQ(Parsed(row[0]).description(), wanted(row)) << row[0];
   }
 }
 
@@ -128,26 +110,11 @@ TEST(MagnetLink, ABadDigitEndsBase16AndLeavesZerosBehindIt) {
 }
 
 TEST(MagnetLink, DividesWithoutAnEmptyLastItem) {
-  const struct {
-    std::wstring text;
-    Items want;
-  } kCases[] = {
-      {L"", {}},
-      {L"a&&b&", {L"a", L"", L"b"}},
-      {L"&", {L""}},
-      {L"&a", {L"", L"a"}},
-      {L"&&", {L"", L""}},
-      {L"a", {L"a"}},
-      {L"a\0&b"s, {L"a\0"s, L"b"}},
-  };
-  for (const auto& test : kCases) {
+  for (const Row& row : rows_of("divided")) {
     Items out = {L"old"};
-    bt_magnet_url_parser::divide_string(test.text, L'&', out);
-    EXPECT_EQ(out, test.want) << testing::PrintToString(test.text);
+    bt_magnet_url_parser::divide_string(row[0], row[1][0], out);
+    EXPECT_EQ(out, Items(row.begin() + 2, row.end())) << row[0];
   }
-  Items out;
-  bt_magnet_url_parser(L"").divide_string(L"a|b&c", L'|', out);
-  EXPECT_EQ(out, (Items{L"a", L"b&c"}));
 }
 
 TEST(MagnetLink, TheCFunctionRefusesNullAndAbsurdLengths) {

@@ -4,74 +4,138 @@
 
 #include <algorithm>
 #include <fstream>
+#include <map>
 
 #include "text/utf8.h"
 
 namespace {
 
+struct Table {
+  std::vector<Row> rows;
+  std::map<std::string, std::string> names;
+  std::string frame = "@";
+};
+
+std::string replaced(std::string text, const std::string& from,
+                     const std::string& to) {
+  for (std::size_t at = text.find(from); at != std::string::npos;
+       at = text.find(from, at + to.size())) {
+    text.replace(at, from.size(), to);
+  }
+  return text;
+}
+
 // Reads what stands in braces at `position` and moves past it.
 unsigned long take_braced(const std::wstring& text, std::size_t& position,
                           int base) {
   const unsigned long braced =
-      std::stoul(text.substr(position + 1), nullptr, base);
+      std::stoul(text.substr(position + 3), nullptr, base);
   position = text.find(L'}', position) + 1;
   return braced;
 }
 
-// Takes one field off the start of `line`.
-std::wstring take_field(std::string_view& line) {
-  const bool is_quoted = line.front() == '"';
-  if (is_quoted) line.remove_prefix(1);
-  const std::string_view field =
-      line.substr(0, line.find(is_quoted ? '"' : ' '));
-  line.remove_prefix(std::min(field.size() + 1, line.size()));
-  line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
-  return units_of(std::string(field));
-}
-
-Row row_of(std::string_view line) {
-  Row row;
-  while (!line.empty()) row.push_back(take_field(line));
-  return row;
-}
-
-}  // namespace
-
-std::wstring units_of(const std::string& text) {
+std::wstring units_of(std::string text, const Table& table) {
+  for (const auto& [name, known] : table.names) {
+    text = replaced(text, name, known);
+  }
   std::wstring source;
   EXPECT_TRUE(qk::text::decode_utf8(text, source)) << text;
   std::wstring units;
-  unsigned long times = 1;
   for (std::size_t i = 0; i < source.size();) {
-    if (source.compare(i, 3, L"\\*{") == 0) {
-      times = take_braced(source, i += 2, 10);
-      continue;
-    }
+    const bool many = source.compare(i, 3, L"\\*{") == 0;
+    const unsigned long times = many ? take_braced(source, i, 10) : 1;
     const bool coded = source.compare(i, 3, L"\\x{") == 0;
-    units.append(times,
-                 coded ? static_cast<wchar_t>(take_braced(source, i += 2, 16))
-                       : source[i++]);
-    times = 1;
+    units.append(times, coded ? static_cast<wchar_t>(take_braced(source, i, 16))
+                              : source[i++]);
   }
   return units;
 }
 
-std::vector<Row> rows_of(std::string_view table) {
-  std::vector<Row> rows;
-  for (const char* file : {"/text_rows.txt", "/url_rows.txt"}) {
-    std::ifstream lines(std::string(TEST_DATA) + file);
-    bool is_inside = false;
-    for (std::string line; std::getline(lines, line);) {
-      if (line.empty() || line.front() == '#') continue;
-      if (line.front() != '[') {
-        if (is_inside) rows.push_back(row_of(line));
-      } else {
-        is_inside = line.substr(1, line.size() - 2) == table;
-      }
+// Takes one field off the start of `line`; a quoted one with its first quote.
+std::string take_field(std::string_view& line) {
+  const bool is_quoted = line.front() == '"';
+  const std::size_t end = line.find(is_quoted ? '"' : ' ', 1);
+  const std::string field(line.substr(0, end));
+  line.remove_prefix(std::min(end, line.size() - 1) + 1);
+  line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+  return field;
+}
+
+// Adds the rows that the fields before and behind a "=>" make.
+void add_rows(Table& table, std::vector<std::string>& inputs,
+              std::vector<std::string>& wants) {
+  const auto text_of = [](const std::string& field) {
+    return field.front() == '"' ? field.substr(1) : field;
+  };
+  if (wants.empty()) {
+    wants.assign(inputs.begin() + 1, inputs.end());
+    inputs.resize(1);
+  }
+  for (const std::string& field : inputs) {
+    const std::string input = text_of(field);
+    Row row = {units_of(replaced(table.frame, "@", input), table)};
+    for (const std::string& want : wants) {
+      row.push_back(units_of(replaced(text_of(want), "$in", input), table));
+    }
+    table.rows.push_back(row);
+  }
+  inputs.clear();
+  wants.clear();
+}
+
+void add_line(Table& table, std::string_view line) {
+  std::vector<std::string> inputs;
+  std::vector<std::string> wants;
+  bool is_want = false;
+  while (!line.empty()) {
+    const std::string field = take_field(line);
+    if (field == "=>") {
+      is_want = true;
+    } else if (field == ";") {
+      is_want = false;
+      add_rows(table, inputs, wants);
+    } else {
+      (is_want ? wants : inputs).push_back(field);
     }
   }
-  EXPECT_FALSE(rows.empty()) << table;
-  return rows;
+  add_rows(table, inputs, wants);
+}
+
+void read_file(Table& table, std::string_view name, const std::string& path) {
+  std::ifstream lines(TEST_DATA + path);
+  table.names.clear();
+  bool is_inside = false;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.empty() || line.front() == '#') continue;
+    if (line.front() == '[') {
+      is_inside = line.substr(1, line.size() - 2) == name;
+    } else if (line.front() == '$') {
+      const std::size_t blank = line.find(' ');
+      table.names[line.substr(0, blank)] = line.substr(blank + 1);
+    } else if (is_inside && line.compare(0, 2, "> ") == 0) {
+      table.frame = line.substr(2);
+    } else if (is_inside) {
+      add_line(table, line);
+    }
+  }
+}
+
+}  // namespace
+
+std::vector<Row> rows_of(std::string_view name) {
+  Table table;
+  for (const char* file : {"/text_rows.txt", "/url_rows.txt", "/ed2k_links.txt",
+                           "/magnet_links.txt"}) {
+    read_file(table, name, file);
+  }
+  EXPECT_FALSE(table.rows.empty()) << name;
+  return table.rows;
+}
+
+std::wstring wanted(const Row& row) {
+  std::wstring all = row[1];
+  for (std::size_t i = 2; i < row.size(); ++i) all += L" " + row[i];
+  return all;
 }
 
 unsigned long number(const std::wstring& field) {
