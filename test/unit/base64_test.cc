@@ -1,26 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "host/korvane_host.h"
+#include "rows.h"
 
 TEST(HostBase64, EncodesWithPadding) {
-  const struct {
-    std::string in;
-    const char* want;
-  } kCases[] = {
-      {"", ""},
-      {"f", "Zg=="},
-      {"fo", "Zm8="},
-      {"foo", "Zm9v"},
-      {"foob", "Zm9vYg=="},
-      {"AAhttp://a/bZZ", "QUFodHRwOi8vYS9iWlo="},
-      {"\xFF\xFE\xFD", "//79"},
-      {std::string("\0\0", 2), "AAA="},
-      {"\xFB\xEF\xBE", "++++"},
-  };
-  for (const auto& test : kCases) {
+  for (const Row& row : rows_of("base64")) {
     std::string out = "old";
-    qk::crypto::base64::encode(test.in, out);
-    EXPECT_EQ(out, test.want) << "in: " << test.in;
+    qk::crypto::base64::encode(bytes(row[0]), out);
+    EXPECT_EQ(out, bytes(row[1])) << row[0];
   }
 }
 

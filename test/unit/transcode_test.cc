@@ -5,9 +5,11 @@
 #include <clocale>
 #include <cstdint>
 #include <cwchar>
+#include <map>
 #include <string>
 
 #include "exact_copy.h"
+#include "rows.h"
 #include "text/iconv_conversion.h"
 
 namespace {
@@ -153,118 +155,64 @@ TEST(Transcode, EveryGbkAndAnsiSequence) {
 
 // --- Rules that hold for single texts
 
-struct NarrowCase {
-  Function<char, char> function;
-  std::string text;
-  std::string want;
-};
+// The function of a row's name that takes and gives such text; null for none.
+template <typename Out, typename In>
+Function<Out, In> function_named(const std::wstring& name);
 
-const std::string kSmile = "\xF0\x9F\x98\x80";
-const std::wstring kWideSmile = L"\U0001F600";
+template <>
+Function<char, char> function_named(const std::wstring& name) {
+  static const std::map<std::wstring, Function<char, char>> kFunctions = {
+      {L"GBK_to_UTF8", &transcode::GBK_to_UTF8},
+      {L"UTF8_to_GBK", &transcode::UTF8_to_GBK},
+      {L"UTF8_to_tstring", &transcode::UTF8_to_tstring},
+      {L"tstring_to_UTF8", &transcode::tstring_to_UTF8},
+      {L"tstring_to_GBK", &transcode::tstring_to_GBK},
+      {L"GBK_to_tstring", &transcode::GBK_to_tstring},
+      {L"tstring_to_ANSI", &transcode::tstring_to_ANSI},
+      {L"ANSI_to_tstring", &transcode::ANSI_to_tstring}};
+  return kFunctions.at(name);
+}
 
-TEST(Transcode, NarrowToNarrow) {
-  const NarrowCase kCases[] = {
-      {&transcode::GBK_to_UTF8, "a\xD6\xD0", "a\xE4\xB8\xAD"},
-      {&transcode::UTF8_to_GBK,
-       "\xE4\xB8\xAD"
-       "a",
-       "\xD6\xD0"
-       "a"},
-      // A conversion ends at a zero byte, at bad and at incomplete input, and
-      // at what the target lacks.
-      {&transcode::GBK_to_UTF8, std::string("A\0B", 3), "A"},
-      {&transcode::UTF8_to_GBK, std::string("A\0B", 3), "A"},
-      {&transcode::GBK_to_UTF8,
-       "a\xFF"
-       "b",
-       "a"},
-      {&transcode::GBK_to_UTF8, "a\xD6", "a"},
-      {&transcode::UTF8_to_GBK, "a\xE4\xB8", "a"},
-      {&transcode::UTF8_to_GBK, "a\xED\xA0\x80", "a"},
-      {&transcode::UTF8_to_GBK, "ab" + kSmile + "c", "ab"},
-      // The tstring family: GBK where it meets UTF-8 or GBK; copies keep zeros.
-      {&transcode::UTF8_to_tstring, "\xE4\xB8\xAD", "\xD6\xD0"},
-      {&transcode::tstring_to_UTF8, "\xD6\xD0", "\xE4\xB8\xAD"},
-      {&transcode::tstring_to_GBK, std::string("A\0\xFF", 3),
-       std::string("A\0\xFF", 3)},
-      {&transcode::GBK_to_tstring, std::string("A\0\xFF", 3),
-       std::string("A\0\xFF", 3)},
-      {&transcode::tstring_to_ANSI, std::string("A\0\xFF", 3),
-       std::string("A\0\xFF", 3)},
-      {&transcode::ANSI_to_tstring, std::string("A\0\xFF", 3),
-       std::string("A\0\xFF", 3)},
-  };
-  for (const NarrowCase& test : kCases) {
-    EXPECT_EQ(run(test.function, test.text), test.want)
-        << "row " << &test - kCases;
+template <>
+Function<wchar_t, char> function_named(const std::wstring& name) {
+  static const std::map<std::wstring, Function<wchar_t, char>> kFunctions = {
+      {L"UTF8_to_Unicode", &transcode::UTF8_to_Unicode},
+      {L"GBK_to_Unicode", &transcode::GBK_to_Unicode},
+      {L"ANSI_to_Unicode", &transcode::ANSI_to_Unicode},
+      {L"UTF8_to_tstring", &transcode::UTF8_to_tstring},
+      {L"GBK_to_tstring", &transcode::GBK_to_tstring},
+      {L"tstring_to_Unicode", &transcode::tstring_to_Unicode},
+      {L"ANSI_to_tstring", &transcode::ANSI_to_tstring}};
+  return kFunctions.at(name);
+}
+
+template <>
+Function<char, wchar_t> function_named(const std::wstring& name) {
+  static const std::map<std::wstring, Function<char, wchar_t>> kFunctions = {
+      {L"Unicode_to_UTF8", &transcode::Unicode_to_UTF8},
+      {L"Unicode_to_GBK", &transcode::Unicode_to_GBK},
+      {L"Unicode_to_ANSI", &transcode::Unicode_to_ANSI},
+      {L"tstring_to_UTF8", &transcode::tstring_to_UTF8},
+      {L"tstring_to_GBK", &transcode::tstring_to_GBK},
+      {L"Unicode_to_tstring", &transcode::Unicode_to_tstring},
+      {L"tstring_to_ANSI", &transcode::tstring_to_ANSI}};
+  return kFunctions.at(name);
+}
+
+template <typename Out, typename In>
+void check_rows(const char* table) {
+  for (const Row& row : rows_of(table)) {
+    const auto function = function_named<Out, In>(row[1]);
+    const std::basic_string<In> text(row[0].begin(), row[0].end());
+    const std::basic_string<Out> want(row[2].begin(), row[2].end());
+    EXPECT_EQ(run(function, text), want) << row[0] << " " << row[1];
   }
 }
 
-TEST(Transcode, NarrowToWide) {
-  const struct {
-    Function<wchar_t, char> function;
-    std::string text;
-    std::wstring want;
-  } kCases[] = {
-      {&transcode::UTF8_to_Unicode,
-       "ab\xFF"
-       "cd",
-       L"ab"},
-      {&transcode::UTF8_to_Unicode, kSmile + "a", L"\U0001F600a"},
-      {&transcode::UTF8_to_Unicode, "a" + kSmile.substr(0, 3), L"a"},
-      {&transcode::UTF8_to_Unicode, std::string("A\0B", 3), L"A"},
-      {&transcode::GBK_to_Unicode, "\xD6\xD0\xB9\xFA", L"\u4E2D\u56FD"},
-      {&transcode::GBK_to_Unicode, "a\xD6", L"a"},
-      {&transcode::ANSI_to_Unicode, "caf\xE9\x80", L"caf\u00E9\u20AC"},
-      {&transcode::ANSI_to_Unicode,
-       "a\x81"
-       "b",
-       L"a"},
-      {&transcode::UTF8_to_tstring, "\xC3\xA9", L"\u00E9"},
-      {&transcode::GBK_to_tstring, "\xD6\xD0", L"\u4E2D"},
-      {&transcode::tstring_to_Unicode, "\xE9", L"\u00E9"},
-      {&transcode::ANSI_to_tstring, "\xE9", L"\u00E9"},
-  };
-  for (const auto& test : kCases) {
-    EXPECT_EQ(run(test.function, test.text), test.want)
-        << "row " << &test - kCases;
-  }
-}
-
-TEST(Transcode, WideToNarrow) {
-  const struct {
-    Function<char, wchar_t> function;
-    std::wstring text;
-    std::string want;
-  } kCases[] = {
-      // Three bytes a character and one: several smiles do not fit.
-      {&transcode::Unicode_to_UTF8, kWideSmile, kSmile},
-      {&transcode::Unicode_to_UTF8, kWideSmile + kWideSmile, kSmile},
-      {&transcode::Unicode_to_UTF8, kWideSmile + L"a" + kWideSmile,
-       kSmile + "a" + kSmile},
-      {&transcode::Unicode_to_UTF8,
-       kWideSmile + kWideSmile + kWideSmile + kWideSmile,
-       kSmile + kSmile + kSmile},
-      {&transcode::Unicode_to_UTF8, std::wstring(L"A\0B", 3), "A"},
-      {&transcode::Unicode_to_UTF8, {L'a', wchar_t(0xD800), L'b'}, "a"},
-      {&transcode::Unicode_to_UTF8, {L'a', wchar_t(0xFFFFFFFF)}, "a"},
-      {&transcode::Unicode_to_GBK, L"\u4E2Da" + kWideSmile,
-       "\xD6\xD0"
-       "a"},
-      {&transcode::Unicode_to_GBK, L"\u4E2D\u4E2D\u4E2D",
-       "\xD6\xD0\xD6\xD0\xD6\xD0"},
-      {&transcode::Unicode_to_ANSI, L"\u00E9", "\xE9"},
-      {&transcode::Unicode_to_ANSI, L"\u4E2D", ""},
-      {&transcode::Unicode_to_ANSI, L"a\u20AC\u4E2D", "a\x80"},
-      {&transcode::tstring_to_UTF8, L"\u00E9", "\xC3\xA9"},
-      {&transcode::tstring_to_GBK, L"\u4E2D", "\xD6\xD0"},
-      {&transcode::Unicode_to_tstring, L"\u00E9", "\xE9"},
-      {&transcode::tstring_to_ANSI, L"\u00E9", "\xE9"},
-  };
-  for (const auto& test : kCases) {
-    EXPECT_EQ(run(test.function, test.text), test.want)
-        << "row " << &test - kCases;
-  }
+TEST(Transcode, ConvertsSingleTexts) {
+  check_rows<char, char>("narrow to narrow");
+  check_rows<wchar_t, char>("narrow to wide");
+  check_rows<char, wchar_t>("wide to narrow");
 }
 
 TEST(Transcode, WideCopiesKeepEveryUnit) {

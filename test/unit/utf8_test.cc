@@ -6,6 +6,7 @@
 #include <string>
 
 #include "exact_copy.h"
+#include "rows.h"
 #include "text/iconv_conversion.h"
 
 namespace {
@@ -54,33 +55,14 @@ TEST(Utf8, DecodesShortTextsAsIconvDoes) {
 }
 
 TEST(Utf8, EncodesCharactersOnly) {
-  const struct {
-    std::uint32_t unit;
-    const char* want;  // between "a" and "b"; null where the text ends
-  } kCases[] = {
-      {0x7F, "\x7F"},
-      {0x80, "\xC2\x80"},
-      {0x7FF, "\xDF\xBF"},
-      {0x800, "\xE0\xA0\x80"},
-      {0xD7FF, "\xED\x9F\xBF"},
-      {0xD800, nullptr},
-      {0xDFFF, nullptr},
-      {0xE000, "\xEE\x80\x80"},
-      {0xFFFF, "\xEF\xBF\xBF"},
-      {0x10000, "\xF0\x90\x80\x80"},
-      {0x10FFFF, "\xF4\x8F\xBF\xBF"},
-      {0x110000, nullptr},
-      {0x80000000, nullptr},
-      {0xFFFFFFFF, nullptr},
-  };
-  for (const auto& test : kCases) {
-    const std::wstring text = {L'a', static_cast<wchar_t>(test.unit), L'b'};
+  for (const Row& row : rows_of("utf8")) {
+    const std::wstring text = L'a' + row[0] + L'b';
     const ExactCopy<wchar_t> copy{std::wstring_view(text)};
     std::string utf8 = "old";
-    EXPECT_EQ(encode_utf8({copy.data(), copy.size()}, utf8),
-              test.want != nullptr);
-    EXPECT_EQ(utf8, test.want ? "a" + std::string(test.want) + "b" : "a")
-        << test.unit;
+    const bool is_character = row[1] != L"none";
+    EXPECT_EQ(encode_utf8({copy.data(), copy.size()}, utf8), is_character);
+    EXPECT_EQ(utf8, is_character ? "a" + bytes(row[1]) + "b" : "a")
+        << testing::PrintToString(text);
   }
 }
 
