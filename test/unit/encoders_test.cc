@@ -10,9 +10,10 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
-#include <ostream>
 #include <string>
 #include <string_view>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "exact_copy.h"
@@ -66,17 +67,8 @@ std::string encoded(Encode encode, const std::string& bytes) {
   return encode(copy.data(), copy.size());
 }
 
-struct Decoded {
-  bool valid;
-  std::string bytes;
-  bool operator==(const Decoded& other) const {
-    return valid == other.valid && bytes == other.bytes;
-  }
-};
-
-std::ostream& operator<<(std::ostream& out, const Decoded& decoded) {
-  return out << decoded.valid << " " << testing::PrintToString(decoded.bytes);
-}
+// The answer and what stands in the output then.
+using Decoded = std::pair<bool, std::string>;
 
 Decoded decoded(Decode decode, const std::string& text,
                 const std::string& old = "") {
@@ -164,9 +156,9 @@ TEST(Encoders, DecodeBase32ReadsBothCasesAndStopsAtABadDigit) {
       std::string text(18, '7');
       text[position] = unit;
       const Decoded got = decoded(decode_base32, text, "old");
-      ASSERT_EQ(got.valid, valid) << code << " at " << position;
-      ASSERT_EQ(got.bytes.size(), valid ? 11 : position * 5 / 8);
-      ASSERT_TRUE(valid || got.bytes == std::string(position * 5 / 8, '\xFF'));
+      ASSERT_EQ(got.first, valid) << code << " at " << position;
+      ASSERT_EQ(got.second.size(), valid ? 11 : position * 5 / 8);
+      ASSERT_TRUE(valid || got.second == std::string(position * 5 / 8, '\xFF'));
     }
   }
 }
@@ -193,20 +185,7 @@ TEST(Encoders, DecodeUrlKeepsWhatIsNoEscape) {
 }
 
 // The answer, the length and the destination's bytes of a base64 call.
-struct Answer {
-  int code;
-  unsigned length;
-  std::string destination;
-  bool operator==(const Answer& other) const {
-    return code == other.code && length == other.length &&
-           destination == other.destination;
-  }
-};
-
-std::ostream& operator<<(std::ostream& out, const Answer& answer) {
-  return out << answer.code << " " << answer.length << " "
-             << testing::PrintToString(answer.destination);
-}
+using Answer = std::tuple<int, unsigned, std::string>;
 
 const unsigned char* octets(const char* bytes) {
   return reinterpret_cast<const unsigned char*>(bytes);
@@ -249,11 +228,10 @@ TEST(Encoders, Base64AgreesWithTheObviousEncoderAndWithOpenSsl) {
     // Theirs counts the padding as bytes.
     EVP_DecodeBlock(reinterpret_cast<unsigned char*>(theirs.data()),
                     octets(want.data()), static_cast<int>(want.size()));
-    Answer got = decode64(want, size / 4 * 3);
-    ASSERT_EQ(got.code, 0);
-    got.destination.resize(got.length);
-    ASSERT_EQ(got.destination, theirs.substr(0, bytes.size()));
-    ASSERT_EQ(got.destination, bytes);
+    const auto [code, length, decoded] = decode64(want, size / 4 * 3);
+    ASSERT_EQ(code, 0);
+    ASSERT_EQ(decoded.substr(0, length), theirs.substr(0, bytes.size()));
+    ASSERT_EQ(decoded.substr(0, length), bytes);
   });
 }
 
@@ -275,7 +253,7 @@ TEST(Encoders, Base64EncodeAnswersCodes) {
 
 // The slow, obvious decoder.
 Answer decode64_slowly(const std::string& source, unsigned room) {
-  Answer invalid = {-18, room, std::string(room, '#')};
+  const Answer invalid = {-18, room, std::string(room, '#')};
   if (source.empty()) return invalid;
   const std::string alphabet = kBase64Alphabet;
   std::string digits;
@@ -288,10 +266,10 @@ Answer decode64_slowly(const std::string& source, unsigned room) {
     digits += source[i];
   }
   if (std::count(digits.begin(), digits.end(), '=') > 2) return invalid;
-  Answer answer = {0, room, std::string(room, '#')};
-  if (digits.empty()) return answer;
+  std::string destination(room, '#');
+  if (digits.empty()) return {0, room, destination};
   const auto needed = static_cast<unsigned>((6 * digits.size() + 7) / 8);
-  if (needed > room) return {-16, needed, answer.destination};
+  if (needed > room) return {-16, needed, destination};
   std::string bytes;
   for (std::size_t i = 0; i + 4 <= digits.size(); i += 4) {
     std::size_t bits = 0;
@@ -305,9 +283,8 @@ Answer decode64_slowly(const std::string& source, unsigned room) {
                           static_cast<char>(bits & 255)};
     bytes.append(group, count);
   }
-  answer.length = static_cast<unsigned>(bytes.size());
-  answer.destination.replace(0, bytes.size(), bytes);
-  return answer;
+  destination.replace(0, bytes.size(), bytes);
+  return {0, static_cast<unsigned>(bytes.size()), destination};
 }
 
 TEST(Encoders, Base64DecodeAgreesWithTheObviousDecoderOnEveryShortText) {

@@ -5,27 +5,18 @@
 #include <string>
 
 #include "host/korvane_host.h"
+#include "rows.h"
 
 namespace {
 
 constexpr unsigned kNoError = 7;
 
 TEST(KorvaneUrl, EncodesBetweenMarkersInBothForms) {
-  const struct {
-    const char* url;
-    std::string want;
-  } kCases[] = {
-      {"http://a/b", "korvane://QUFodHRwOi8vYS9iWlo="},
-      {"a", "korvane://QUFhWlo="},
-      {"AAxZZ", "korvane://QUFBQXhaWlpa"},
-      {"\xE4\xB8\xAD\xFF", "korvane://QUHkuK3/Wlo="},
-      {"a\0b", "korvane://QUFhWlo="},
-  };
-  for (const auto& test : kCases) {
+  for (const Row& row : rows_of("private links")) {
+    const std::string url = bytes(row[0]);
     qk::set_last_error(kNoError);
-    EXPECT_EQ(korvane_url_t<char>::encode(test.url), test.want);
-    EXPECT_EQ(korvane_url_t<wchar_t>::encode(test.url),
-              std::wstring(test.want.begin(), test.want.end()));
+    EXPECT_EQ(korvane_url_t<char>::encode(url.c_str()), bytes(row[1]));
+    EXPECT_EQ(korvane_url_t<wchar_t>::encode(url.c_str()), row[1]);
     EXPECT_EQ(qk::get_last_error(), kNoError);
   }
   EXPECT_STREQ(korvane_url_t<char>::s_schema, "korvane://");
