@@ -15,15 +15,11 @@ namespace {
 
 wchar_t unit(unsigned code) { return static_cast<wchar_t>(code); }
 
-std::wstring upper_escape(unsigned value) {
-  constexpr std::wstring_view digits = L"0123456789ABCDEF";
+std::wstring escape(unsigned value, std::wstring_view digits) {
   return {L'%', digits[value / 16], digits[value % 16]};
 }
-
-std::wstring lower_escape(unsigned value) {
-  constexpr std::wstring_view digits = L"0123456789abcdef";
-  return {L'%', digits[value / 16], digits[value % 16]};
-}
+constexpr std::wstring_view kUpper = L"0123456789ABCDEF";
+constexpr std::wstring_view kLower = L"0123456789abcdef";
 
 template <typename Unit>
 std::string classes_of(Unit unit) {
@@ -57,7 +53,7 @@ TEST(CharacterClasses, TellEveryCharacter) {
 TEST(Decode, UndoesEscapesOfEveryValueInBothCases) {
   for (unsigned value = 0; value < 256; ++value) {
     for (const std::wstring& text :
-         {upper_escape(value), lower_escape(value)}) {
+         {escape(value, kUpper), escape(value, kLower)}) {
       SCOPED_TRACE(testing::PrintToString(text));
       const std::string narrow(text.begin(), text.end());
       const std::string byte(1, static_cast<char>(value));
@@ -143,7 +139,7 @@ TEST(Encode, EscapesSpecialAndReservedCharacters) {
     const bool escaped =
         url_object::need_escape(point) || url_object::is_reserved(point);
     EXPECT_EQ(url_object::encode_ex(std::wstring(1, point)),
-              escaped ? upper_escape(code) : std::wstring(1, point))
+              escaped ? escape(code, kUpper) : std::wstring(1, point))
         << code;
   }
 }
