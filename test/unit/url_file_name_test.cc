@@ -45,11 +45,9 @@ TEST(FileName, HoldsNoIllegalCharacter) {
 }
 
 TEST(FileName, IsNeverShortened) {
-  for (const std::size_t length : {255U, 256U, 257U, 1023U, 1024U, 5000U}) {
-    const std::wstring name(length, L'n');
-    EXPECT_EQ(url_object::file_name_for(L"h/" + name, 0), name);
-    EXPECT_EQ(url_object::file_name_for(L"h/%41:" + name, 0), L"A_" + name);
-  }
+  const std::wstring name(5000, L'n');
+  EXPECT_EQ(url_object::file_name_for(L"h/" + name, 0), name);
+  EXPECT_EQ(url_object::file_name_for(L"h/%41:" + name, 0), L"A_" + name);
 }
 
 TEST(FilePosition, IsTheSeparatorBeforeTheQuery) {
