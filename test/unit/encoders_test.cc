@@ -16,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "allocation_counter.h"
 #include "exact_copy.h"
 #include "rows.h"
 #include "url/korvane_links.h"
@@ -107,6 +108,13 @@ TEST(Encoders, Base16AgreesWithOpenSsl) {
     OPENSSL_free(spaced);
     want.erase(std::remove(want.begin(), want.end(), ':'), want.end());
     ASSERT_EQ(encoded(encode_base16, bytes), want);
+    long size = 0;
+    unsigned char* const theirs = OPENSSL_hexstr2buf(want.c_str(), &size);
+    std::string ours;
+    ASSERT_TRUE(decode_base16(want.data(), want.size(), ours));
+    ASSERT_EQ(ours, std::string(reinterpret_cast<char*>(theirs),
+                                static_cast<std::size_t>(size)));
+    OPENSSL_free(theirs);
   });
 }
 
@@ -233,6 +241,19 @@ TEST(Encoders, Base64AgreesWithTheObviousEncoderAndWithOpenSsl) {
     ASSERT_EQ(decoded.substr(0, length), theirs.substr(0, bytes.size()));
     ASSERT_EQ(decoded.substr(0, length), bytes);
   });
+}
+
+TEST(Encoders, Base64FunctionsDoNotAllocate) {
+  char text[9];
+  unsigned size = sizeof(text);
+  unsigned char decoded[6];
+  EXPECT_EQ(allocations_of([&] {
+              base64_encode(text, &size, octets("abcdef"), 6);
+              unsigned room = sizeof(decoded);
+              base64_decode(decoded, &room, text, size);
+            }),
+            0U);
+  EXPECT_EQ(std::string(decoded, decoded + 6), "abcdef");
 }
 
 TEST(Encoders, Base64EncodeAnswersCodes) {

@@ -39,8 +39,8 @@ TYPED_TEST(FormatUtility, PrintsNumbersOfEverySize) {
             as<TypeParam>("18446744073709551615"));
   EXPECT_EQ(Format::to_string(LONG_MIN), as<TypeParam>("-9223372036854775808"));
   EXPECT_EQ(Format::to_string(-1.5F), as<TypeParam>("-1.500000"));
-  EXPECT_EQ(Format::to_string(FLT_MAX),
-            as<TypeParam>("340282346638528859811704183484516925440.000000"));
+  EXPECT_EQ(Format::to_string(-FLT_MAX),
+            as<TypeParam>("-340282346638528859811704183484516925440.000000"));
 }
 
 TYPED_TEST(FormatUtility, CutsLongNumbersAfter127Units) {
