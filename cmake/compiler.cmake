@@ -21,3 +21,7 @@ if(KORVANE_SANITIZE)
   add_compile_definitions(KORVANE_SANITIZED)
   add_link_options(-fsanitize=address,undefined,integer)
 endif()
+
+if(KORVANE_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
