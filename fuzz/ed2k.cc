@@ -27,7 +27,8 @@ void check_record(const std::wstring& text, bool is_link,
   if (is_link) {
     std::memset(want.get(), 0, sizeof *want);
     want->size = static_cast<double>(link.get_file_size());
-    link.get_file_name().copy(want->name, ED2K_NAME_CAPACITY - 1);
+    const std::wstring name = link.get_file_name().c_str();
+    name.copy(want->name, ED2K_NAME_CAPACITY - 1);
     std::copy_n(link.get_file_hash().octets.begin(), ED2K_HASH_SIZE,
                 want->hash);
   }

@@ -40,7 +40,10 @@ std::wstring name_slowly(const std::wstring& text, unsigned code_page) {
   const std::size_t separator = separator_of(rest);
   require(separator == url_object::get_file_pos(rest), "where a name stands");
   std::wstring name = separator == kNowhere ? rest : rest.substr(separator + 1);
-  if (query != kNowhere) name = name.substr(0, name.find(L'&'));
+  // Without a separator the text is the name, "&" and all.
+  if (query != kNowhere && separator != kNowhere) {
+    name = name.substr(0, name.find(L'&'));
+  }
   name.erase(0, name.find_first_not_of(kIllegal));
   for (wchar_t& unit : name) {
     if (unit != 0 && std::wcschr(kIllegal, unit) != nullptr) unit = L'_';

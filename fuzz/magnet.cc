@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "fuzz.h"
+#include "host/korvane_host.h"
 #include "unit/exact_copy.h"
 #include "url/bt_magnet_url_parser.h"
 #include "url/encoders.h"
@@ -21,20 +22,19 @@ struct Link {
   bool has_hash = false;
 };
 
-// Five bits or four from each digit; false at one that is none.
+// The values of digits up to one that is none; false if there is one.
 template <typename Add>
-bool each_digit(const Text& digits, const std::string& alphabet, Add add) {
-  for (const wchar_t digit : digits) {
-    const auto code = qk::text::code_of(digit);
-    const std::size_t value =
-        code < 128 ? alphabet.find(static_cast<char>(code)) : std::string::npos;
+bool each_digit(const std::string& digits, const std::string& alphabet,
+                Add add) {
+  for (const char digit : digits) {
+    const std::size_t value = alphabet.find(digit);
     if (value == std::string::npos) return false;
     add(static_cast<unsigned>(value));
   }
   return true;
 }
 
-void read_base32(const Text& digits, std::string& hash) {
+void read_base32(const std::string& digits, std::string& hash) {
   hash.resize(MAGNET_HASH_SIZE);
   for (std::size_t group = 0; group < 4; ++group) {
     std::string bits;
@@ -51,15 +51,15 @@ void read_base32(const Text& digits, std::string& hash) {
   }
 }
 
-void read_base16(const Text& digits, std::string& hash) {
+void read_base16(std::string digits, std::string& hash) {
   hash.assign(MAGNET_HASH_SIZE, '\0');
+  for (char& digit : digits) {
+    if (digit >= 'a' && digit <= 'z') digit -= 32;
+  }
   for (std::size_t i = 0; i < hash.size(); ++i) {
     unsigned byte = 0;
     const auto add = [&byte](unsigned value) { byte = byte << 4 | value; };
-    if (!each_digit(make_upper(digits.substr(2 * i, 2)), "0123456789ABCDEF",
-                    add)) {
-      return;
-    }
+    if (!each_digit(digits.substr(2 * i, 2), "0123456789ABCDEF", add)) return;
     hash[i] = static_cast<char>(byte);
   }
 }
@@ -79,9 +79,10 @@ bool read_item(const Text& item, Link& link) {
   } else if (is_key(key, L"xt")) {
     if (value.substr(0, 9) != L"urn:btih:") return false;
     link.has_hash = true;
-    const Text digits = value.substr(9);
+    const std::string digits = wstring_2_string(value.substr(9));
     if (digits.size() != 32 && digits.size() != 40) return false;
-    (digits.size() == 32 ? read_base32 : read_base16)(digits, link.hash);
+    if (digits.size() == 32) read_base32(digits, link.hash);
+    if (digits.size() == 40) read_base16(digits, link.hash);
   }
   return true;
 }

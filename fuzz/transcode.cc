@@ -33,7 +33,7 @@ iconv_t converter(const char* to, const char* from) {
   return descriptor.get();
 }
 
-// Converts one character of up to `size` bytes; false if that is none.
+// Converts `bytes` to `out`; false if they are not one character.
 bool convert_one(iconv_t descriptor, std::string_view bytes, std::string& out) {
   char units[64];
   char* in = const_cast<char*>(bytes.data());
@@ -65,7 +65,7 @@ Converted convert_slowly(const char* to, const char* from,
     std::size_t size = unit;
     while (!convert_one(converter(to, from), input.substr(0, size), one)) {
       size += unit;
-      if (size > std::min<std::size_t>(4, input.size())) return {all, false};
+      if (size > std::min<std::size_t>(6, input.size())) return {all, false};
     }
     if (all.size() + one.size() > room) return {all, false};
     all += one;
