@@ -394,8 +394,7 @@ TEST(Ed2kLink, ReadsItsOwnMembers) {
   const std::wstring text =
       L"ed2k://|file|long%20name.bin|100|0123456789ABCDEF0123456789ABCDEF|"
       L"s=zzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzz|/";
-  std::wstring name = text;
-  ed2k_file_link link(name, 0, {});
+  ed2k_file_link link(text, 0, {});
   EXPECT_TRUE(link.create_from_ed2k_url(link.get_file_name()));
   EXPECT_EQ(link.get_file_name(), L"long name.bin");
   link.set_http_url(text);
