@@ -274,7 +274,7 @@ TEST(Encoders, Base64EncodeAnswersCodes) {
 
 // The slow, obvious decoder.
 Answer decode64_slowly(const std::string& source, unsigned room) {
-  const Answer invalid = {-18, room, std::string(room, '#')};
+  Answer invalid = {-18, room, std::string(room, '#')};
   if (source.empty()) return invalid;
   const std::string alphabet = kBase64Alphabet;
   std::string digits;

@@ -55,7 +55,7 @@ std::wstring units_of(std::string text, const Table& table) {
 std::string take_field(std::string_view& line) {
   const bool is_quoted = line.front() == '"';
   const std::size_t end = line.find(is_quoted ? '"' : ' ', 1);
-  const std::string field(line.substr(0, end));
+  std::string field(line.substr(0, end));
   line.remove_prefix(std::min(end, line.size() - 1) + 1);
   line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
   return field;

@@ -19,8 +19,8 @@
 
 using Row = std::vector<std::wstring>;
 
-// The rows of a table; none is a failure of the running test.
-std::vector<Row> rows_of(std::string_view table);
+// The rows of the table of that name; none is a failure of the running test.
+std::vector<Row> rows_of(std::string_view name);
 
 // The fields from the second on, with a blank between them.
 std::wstring wanted(const Row& row);
