@@ -24,11 +24,20 @@ std::string bits_of(std::size_t value, std::size_t count) {
   return bits;
 }
 
+std::size_t value_of(const std::string& bits, std::size_t at,
+                     std::size_t count) {
+  std::size_t value = 0;
+  for (std::size_t i = at; i < at + count; ++i) {
+    value = 2 * value + (bits[i] == '1' ? 1 : 0);
+  }
+  return value;
+}
+
 // Whole bytes alone.
 std::string bytes_of(const std::string& bits) {
   std::string bytes;
   for (std::size_t i = 0; i + 8 <= bits.size(); i += 8) {
-    bytes += static_cast<char>(std::stoi(bits.substr(i, 8), nullptr, 2));
+    bytes += static_cast<char>(value_of(bits, i, 8));
   }
   return bytes;
 }
@@ -40,7 +49,7 @@ std::string encode_slowly(const std::string& bytes, std::string_view alphabet,
   bits.append((width - bits.size() % width) % width, '0');
   std::string text;
   for (std::size_t i = 0; i < bits.size(); i += width) {
-    text += alphabet[std::stoul(bits.substr(i, width), nullptr, 2)];
+    text += alphabet[value_of(bits, i, width)];
   }
   return text;
 }
