@@ -85,17 +85,12 @@ void check_number(const Text& text) {
   const Text digits = text.substr(!text.empty() && text[0] == '-' ? 1 : 0);
   const bool is_number =
       !text.empty() && digits.find_first_not_of("0123456789") == kNowhere;
-  unsigned __int128 sum = 0;
+  std::uint64_t sum = 0;  // wraps
   for (const char digit : is_number ? digits : "") {
-    sum = (sum * 10 + static_cast<unsigned>(digit - '0')) &
-          std::numeric_limits<std::uint64_t>::max();
+    sum = sum * 10 + static_cast<unsigned>(digit - '0');
   }
-  if (digits.size() != text.size()) {
-    sum = ((static_cast<unsigned __int128>(1) << 64) - sum) &
-          std::numeric_limits<std::uint64_t>::max();
-  }
-  const long long want =
-      is_number ? static_cast<long long>(static_cast<std::uint64_t>(sum)) : 77;
+  if (digits.size() != text.size()) sum = 0 - sum;
+  const long long want = is_number ? static_cast<long long>(sum) : 77;
   long long got = 77;
   require(xstringutil::StringToInt64(text, got) == is_number, "a number");
   require_equal(want, got, "the number");
