@@ -1,18 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "host/korvane_host.h"
 #include "rows.h"
 
-TEST(HostBase64, EncodesWithPadding) {
-  for (const Row& row : rows_of("base64")) {
-    std::string out = "old";
-    qk::crypto::base64::encode(bytes(row[0]), out);
-    EXPECT_EQ(out, bytes(row[1])) << row[0];
-  }
-}
-
-TEST(HostBase64, EncodesInPlace) {
-  std::string text = "foobar";
-  qk::crypto::base64::encode(text, text);
-  EXPECT_EQ(text, "Zm9vYmFy");
+TEST(HostBase64, EncodesWithPaddingAndInPlace) {
+  check<std::string>("base64", [](std::string text) {
+    qk::crypto::base64::encode(text, text);
+    return text;
+  });
 }

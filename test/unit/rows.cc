@@ -139,11 +139,18 @@ std::wstring wanted(const Row& row) {
 }
 
 unsigned long number(const std::wstring& field) {
-  return std::stoul(field, nullptr, 0);
+  return field == L"nowhere" ? std::wstring::npos
+                             : std::stoul(field, nullptr, 0);
 }
 
 std::string bytes(const std::wstring& field) {
   std::string narrow;
   for (const wchar_t unit : field) narrow += static_cast<char>(unit);
   return narrow;
+}
+
+std::wstring units(std::string_view bytes) {
+  std::wstring wide;
+  for (const char byte : bytes) wide += static_cast<unsigned char>(byte);
+  return wide;
 }
