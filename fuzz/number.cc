@@ -98,11 +98,14 @@ void check_scanned(const std::string& text) {
   const double real = Narrow::str_to_float64(narrow);
   const double wide_real = Wide::str_to_float64(wide);
   require(std::memcmp(&real, &wide_real, sizeof real) == 0, "float64 twins");
-  const std::string_view digits =
-      std::string_view(text).substr(0, text.find_first_not_of("0123456789"));
-  require(qk::text::decimal_value(digits) ==
-              std::strtoull(std::string(digits).c_str(), nullptr, 10),
+  const std::size_t digits =
+      std::min(text.find_first_not_of("0123456789"), text.size());
+  const std::uint64_t value =
+      std::strtoull(text.substr(0, digits).c_str(), nullptr, 10);
+  require(qk::text::decimal_value(std::string_view(narrow, digits)) == value,
           "digits");
+  require(qk::text::decimal_value(std::wstring_view(wide, digits)) == value,
+          "wide digits");
 }
 
 std::wstring lowered(std::wstring text) {

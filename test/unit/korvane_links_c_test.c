@@ -5,73 +5,48 @@
 
 int use_link_functions_from_c(void);
 
-static int check_url(void) {
-  static const wchar_t url[] = L"http://user@host/dir/My%20File.zip?x=1";
-  const size_t url_len = sizeof(url) / sizeof(url[0]) - 1;
-  url_info_u info;
-  wchar_t text[64];
-  size_t text_len = 64;
-  unsigned supported = 0;
+/* Programs are compiled with these. */
+typedef char
+    codes_are_known[URL_E_UNSUPPORTED == -1 && URL_E_BUFFER == -4 &&
+                            URL_E_PARSE == -9 && URL_E_INVALID_ARG == -11 &&
+                            BASE64_E_BUFFER == -16 && BASE64_E_CHARACTER == -18
+                        ? 1
+                        : -1];
 
-  if (parse_url_u(url, url_len, 0, &info) != 0) return __LINE__;
-  if (info.host_len != 4 || info.port != 80) return __LINE__;
-  if (memcmp(info.user, L"user", sizeof(wchar_t) * 4) != 0) return __LINE__;
-  if (url_info_to_str_u(text, &text_len, &info) != 0) return __LINE__;
-  if (text_len != url_len + 1) return __LINE__;
-  text_len = 3;
-  if (parse_filename_u(text, &text_len, url, url_len, 0) != URL_E_BUFFER) {
-    return __LINE__;
-  }
-  text_len = 64;
-  if (parse_filename_u(text, &text_len, url, url_len, 0) != 0) return __LINE__;
-  if (text_len != 11) return __LINE__;
-  if (is_support_schema("ftp://", 6, &supported) != 0) return __LINE__;
-  return supported == 1 ? 0 : __LINE__;
-}
-
-static int check_links(void) {
+int use_link_functions_from_c(void) {
+  static const wchar_t url[] = L"http://u@h/My%20File.zip";
   static const wchar_t ed2k[] =
       L"ed2k://|file|a%20b|100|0123456789ABCDEF0123456789ABCDEF|/";
   static const wchar_t magnet[] =
       L"magnet:?xt=urn:btih:0123456789abcdef0123456789abcdef01234567";
-  ed2k_url_info_u info;
-  unsigned char hash[MAGNET_HASH_SIZE];
-
-  if (parse_ed2k_url_u(ed2k, sizeof(ed2k) / sizeof(ed2k[0]) - 1, &info) != 0) {
-    return __LINE__;
-  }
-  if (info.size < 100 || info.size > 100) return __LINE__;
-  if (memcmp(info.name, L"a b", sizeof(wchar_t) * 4) != 0) return __LINE__;
-  if (info.hash[ED2K_HASH_SIZE - 1] != 0xEF) return __LINE__;
-  if (parse_magnet_url_u(magnet, sizeof(magnet) / sizeof(magnet[0]) - 1,
-                         hash) != 0) {
-    return __LINE__;
-  }
-  return hash[MAGNET_HASH_SIZE - 1] == 0x67 ? 0 : __LINE__;
-}
-
-static int check_base64(void) {
-  static const unsigned char bytes[] = {'a', 'b', 'c', 'd'};
+  const size_t length = sizeof(url) / sizeof(url[0]) - 1;
+  url_info_u info;
+  ed2k_url_info_u file;
+  wchar_t out[64];
+  size_t out_len = 64;
   char text[9];
-  unsigned char decoded[6];
-  unsigned text_length = 4;
-  unsigned length = sizeof(decoded);
+  unsigned char bytes[MAGNET_HASH_SIZE];
+  unsigned number = 0;
 
-  if (base64_encode(text, &text_length, bytes, 4) != BASE64_E_BUFFER) {
+  if (parse_url_u(url, length, 0, &info) != 0) return __LINE__;
+  if (url_info_to_str_u(out, &out_len, &info) != 0) return __LINE__;
+  if (memcmp(out, L"http://u:@h/", sizeof(wchar_t) * 12) != 0) return __LINE__;
+  if (parse_filename_u(out, &out_len, url, length, 0) != 0) return __LINE__;
+  if (memcmp(out, L"My File.zip", sizeof(wchar_t) * 11) != 0) return __LINE__;
+  if (is_support_schema("ftp://", 6, &number) != 0) return __LINE__;
+  if (number != 1) return __LINE__;
+  if (parse_ed2k_url_u(ed2k, sizeof(ed2k) / sizeof(ed2k[0]) - 1, &file) != 0) {
     return __LINE__;
   }
-  if (text_length != sizeof(text)) return __LINE__;
-  if (base64_encode(text, &text_length, bytes, 4) != 0) return __LINE__;
-  if (strcmp(text, "YWJjZA==") != 0) return __LINE__;
-  if (base64_decode(decoded, &length, text, text_length) != 0) return __LINE__;
-  if (length != 4 || memcmp(decoded, bytes, 4) != 0) return __LINE__;
-  return base64_decode(decoded, &length, "!", 1) == BASE64_E_CHARACTER
-             ? 0
-             : __LINE__;
-}
-
-int use_link_functions_from_c(void) {
-  const int url_line = check_url();
-  const int links_line = url_line != 0 ? url_line : check_links();
-  return links_line != 0 ? links_line : check_base64();
+  if (file.hash[ED2K_HASH_SIZE - 1] != 0xEF) return __LINE__;
+  if (parse_magnet_url_u(magnet, sizeof(magnet) / sizeof(magnet[0]) - 1,
+                         bytes) != 0) {
+    return __LINE__;
+  }
+  if (bytes[MAGNET_HASH_SIZE - 1] != 0x67) return __LINE__;
+  number = sizeof(text);
+  if (base64_encode(text, &number, bytes, 4) != 0) return __LINE__;
+  if (strcmp(text, "ASNFZw==") != 0) return __LINE__;
+  return base64_decode(bytes, &number, text, 8) == 0 && number == 4 ? 0
+                                                                    : __LINE__;
 }
