@@ -6,8 +6,7 @@
 // descriptor 3 and reads one line of answer from descriptor 4:
 //   KEY VALUE  sets a number: of `told`, or "refuse", "close_at", "hold_at",
 //              the request code that is answered with an error, ends the
-//              connection, or waits until another number is set, or "setup",
-//              one of the answers to a new connection
+//              connection, or waits until another number is set
 //   next       the requests of the oldest connection not told yet, without
 //              those of opening and closing; waits until it has ended
 //   held       waits until a request waits
@@ -20,7 +19,7 @@ const { spawn } = require('child_process');
 
 const root = 0x100;
 const told = {
-  setup: 0, root, x: 0, y: 0, w: 1, h: 1, properties: 1,  // every window
+  root, x: 0, y: 0, w: 1, h: 1, properties: 1,  // every window
   translated_x: 0, translated_y: 0, same_screen: 1,
   focus: 0, pointer_x: 0, pointer_y: 0,
 };
@@ -89,17 +88,6 @@ function setup() {
     [byte(1), byte(0), half(11), half(0), half(body.length / 4), body]);
 }
 
-// What a new connection is told, by `told.setup`; all but the first close it.
-const setups = [
-  setup,
-  () => zeros(0),
-  () => setup().slice(0, 5),
-  () => setup().slice(0, 60),
-  () => Buffer.from('\0\x07\x0b\0\0\0\x02\0refused\0', 'latin1'),
-  () => Buffer.from('\x02\0\0\0\0\0\x02\0who goes', 'latin1'),
-  () => Buffer.from('HTTP/1.1 400 Bad Request\r\n\r\n'),
-];
-
 // A request as text: its name, then an atom's name or the request's words.
 function describe(request) {
   const [code, flag] = request;
@@ -154,8 +142,7 @@ function serve(socket) {
       unread = unread.slice(size);
       sequence += 1;
       if (sequence > 0) socket.write(answer(request, sequence));
-      else if (told.setup === 0) socket.write(setup());
-      else { socket.end(setups[told.setup]()); return; }
+      else socket.write(setup());
     }
   };
   socket.on('data', (bytes) => {

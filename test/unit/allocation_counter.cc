@@ -3,21 +3,8 @@
 #include <cstdlib>
 #include <new>
 
-namespace {
-
 thread_local std::size_t allocations = 0;
 thread_local std::size_t failing_allocation = 0;
-
-}  // namespace
-
-AllocationCounter::AllocationCounter(std::size_t failing) {
-  allocations = 0;
-  failing_allocation = failing;
-}
-
-AllocationCounter::~AllocationCounter() { failing_allocation = 0; }
-
-std::size_t AllocationCounter::count() { return allocations; }
 
 // The array and the nothrow forms of the library come down to these.
 void* operator new(std::size_t size) {

@@ -1,29 +1,20 @@
 // Counts the allocations of a stretch of code and makes one of them fail.
-// Linking allocation_counter.cc replaces the program's operator new and delete;
-// counts are those of the calling thread.
+// Linking allocation_counter.cc replaces the program's operator new and delete.
 #ifndef KORVANE_TEST_UNIT_ALLOCATION_COUNTER_H_
 #define KORVANE_TEST_UNIT_ALLOCATION_COUNTER_H_
 
 #include <cstddef>
 
-// Counts while it lives; only one may live at a time.
-class AllocationCounter {
- public:
-  // Lets the `failing`-th allocation from now on throw std::bad_alloc; 0: none.
-  explicit AllocationCounter(std::size_t failing = 0);
-  ~AllocationCounter();
-  AllocationCounter(const AllocationCounter&) = delete;
-  AllocationCounter& operator=(const AllocationCounter&) = delete;
-
-  // How many allocations were asked for, the failed one included.
-  static std::size_t count();
-};
+// Of the calling thread: how many there were, the failed one included, and
+// which throws std::bad_alloc; 0: none.
+extern thread_local std::size_t allocations;
+extern thread_local std::size_t failing_allocation;
 
 template <typename Call>
 std::size_t allocations_of(Call call) {
-  const AllocationCounter counter;
+  allocations = 0;
   call();
-  return counter.count();
+  return allocations;
 }
 
 // Runs `call` with its first allocation failing, then with its second, and so
@@ -32,13 +23,10 @@ std::size_t allocations_of(Call call) {
 template <typename Call, typename Check>
 std::size_t fail_each_allocation(Call call, Check check) {
   for (std::size_t failing = 1;; ++failing) {
+    failing_allocation = failing;
     decltype(call()) answer{};
-    std::size_t asked_for = 0;
-    {
-      const AllocationCounter counter(failing);
-      answer = call();
-      asked_for = counter.count();
-    }
+    const std::size_t asked_for = allocations_of([&] { answer = call(); });
+    failing_allocation = 0;
     if (asked_for < failing) return failing - 1;
     check(answer);
   }
