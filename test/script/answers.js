@@ -1,60 +1,14 @@
 'use strict';
 
-// What each function answers: the one answer of a function that has one, or
-// the answer to a well-formed call and the fallback.
+// The exported names, and what each function answers: the one answer of a
+// function that has one, or the answer to a well-formed call and the fallback.
+// The list gives NAME:ANSWER, NAME for undefined, NAME:? for several answers.
+
+const fs = require('fs');
+const path = require('path');
 
 const text = 'file';
 const call = () => { throw new Error('called'); };
-
-// Functions that answer one thing, whatever they are given.
-const constant = [
-  [undefined, `
-    printEtwLog printAdvancedEtwLog attachShadowWindow drawShadowWindow
-    destroyShadowWindow setShadowWindowResizable initGDIPlus uninitGDIPlus
-    setDefaultDPI getWindowLong setWindowLong modifyStyle modifyStyleEx
-    setWindowFocus getNextWindow allowSetForegroundWindow setForegroundWindow
-    setDllDirectory findChildWindow getClipBoardText queryRegValue readRegString
-    writeRegValue deleteRegValue deleteRegKey createRegKey startListenLocalNet
-    stopListenLocalNet shutDownMachine suspendMachine rebootdMachine
-    initClipBoard readINI iSColdStartUp refreshIcon startAutoUpdateWithUI
-    startManualUpdateWithUI startUpdateWithUI initLiveUD isKorvaneOnUserFocus
-    moveSuspenWindow shellExecute copyTextToClipBoard emptyClipBoard
-    endKorvaneStartProcess getForegroundProcessName isFullScreen
-    getLogicalDriveStrings getDriveInfo getPartitionSpace getFreePartitionSpace
-    getSystemTempPath isKorvanePrivateUrl parseKorvanePrivateUrl
-    makeKorvanePrivateUrl parseFileNameFromP2spUrlPath parseUrl parseEd2kUrl
-    parseMagnetUrl makeUrl getOSVersion isWindowEnable setScreenSaveActive
-    getTickCount extractIcon getFreeTime openURLByIEorDefault openURLByDefault
-    getWndHandleFromPoint getParentWnd getIEProxy disableWindowAnimation
-    setBugreportCustomInfo setBugreportShowMode getMediaInfo calculateFileCID
-    calculateFileGCID calculateFileBCID attachVirtualDisk detachVirtualDisk
-    getVirtualDiskPhysicalPath isIconic isZoomed moveWindow isWindowVisible
-    getAppList isSSD getMemoryInfo getHardDiskSpaceList getCpuList
-    getDriveMediaType IsSparseFile IsSparseDriver trackEvent`],
-  ['', `
-    getDmideCode getAppDataLocalLowPath getRoamingAppDataPath
-    getPublicUserDataPath getDesktopPath getDocumentPath getInstallChannel
-    getChannelID getLongPathName getCommonFilesPath getDefaultBrowserPath
-    utf8StringEncodeToBinary utf8StringDecodeFromBinary getWindowClassName
-    getCpuID`],
-  ['1.0.0.1', 'getFileVersion'],
-  [0, `
-    getCurInternetState attachClipBoard writeINI isWin7 getCpuFrequency
-    asynCopyFile asynMoveFile asynPreLoadFile asyncUpgradeP2spTask
-    asyncUpgradeBtTask asyncUpgradeEmuleTask asyncShellExecuteAndWait
-    asyncShellExecute asyncCalcuteFileMD5 asyncDiskIdleInfo asyncUnZipFile
-    setProcessEnvironmentVariable removeProcessEnvironmentVariable
-    asyncFindProcess terminateProcessByName getNetAdapterInfo
-    updateDesktopIcon`],
-  [1, 'getCpuProcessors'],
-  [-1, 'asynDeleteFile'],
-  [false, `
-    setWindowPos showWindow notifyBrowserConfigChanged isFilePathValid
-    setFileAttributes queryFileExists initUpgrade IsInFullScreen
-    isDwmCompositionEnabled isDropShadowEnabled emptyWorkingSet
-    createShortcut`],
-  [true, 'getDPIAwareSupport isOpenLumo'],
-];
 
 // Functions whose answer tells a good call from another: name, good calls and
 // their answer, other calls and theirs.
@@ -90,9 +44,11 @@ const wellFormed = {
   startListenLocalNet: [call],
 };
 
-const fixed = new Map();
-for (const [answer, list] of constant) {
-  for (const name of list.trim().split(/\s+/)) fixed.set(name, answer);
-}
+const listed = fs.readFileSync(
+  path.join(__dirname, '../data/script_names.txt'), 'utf8').trim().split(/\s+/)
+  .map((word) => word.split(/:(.*)/));
+const names = listed.map(([name]) => name);
+const fixed = new Map(listed.filter(([, answer]) => answer !== '?')
+  .map(([name, answer]) => [name, answer && JSON.parse(answer)]));
 
-module.exports = { checked, fixed, wellFormed };
+module.exports = { checked, fixed, names, wellFormed };
