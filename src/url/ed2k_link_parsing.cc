@@ -130,15 +130,6 @@ bool decode_file_hash(std::basic_string_view<Unit> digits,
                      });
 }
 
-// What stands behind the digits of the hash does not count.
-template <typename Unit>
-bool decode_root_hash(std::basic_string_view<Unit> digits,
-                      ed2k_file_link::root_hash& hash) {
-  if (digits.size() < kRootHashGroups * kBase32GroupDigits) return false;
-  return decode_base32_groups(kBase32Values, digits.data(), kRootHashGroups,
-                              hash.octets.data()) == kRootHashGroups;
-}
-
 template <typename Link>
 bool read_file_hash(std::wstring_view text, Link& link) {
   ed2k_file_link::file_hash hash;
@@ -151,15 +142,16 @@ bool read_file_hash(std::wstring_view text, Link& link) {
   return valid;
 }
 
+// What stands behind the digits does not count. Narrowing makes no digits.
 template <typename Link>
 bool read_root_hash(std::wstring_view text, Link& link) {
+  if (text.size() < kRootHashGroups * kBase32GroupDigits) return false;
   ed2k_file_link::root_hash hash;
-  const auto decode = [&hash](auto digits) {
-    return decode_root_hash(digits, hash);
-  };
-  const bool valid = decode(text) || read_narrow(text, decode);
-  if (valid) link.put_root_hash(hash);
-  return valid;
+  const std::size_t groups = decode_base32_groups(
+      kBase32Values, text.data(), kRootHashGroups, hash.octets.data());
+  if (groups != kRootHashGroups) return false;
+  link.put_root_hash(hash);
+  return true;
 }
 
 template <typename Link>
@@ -263,7 +255,7 @@ std::wstring_view decode_name(std::wstring_view name, ScratchText& scratch) {
   const bool is_foreign = (classes & kForeign) != 0;
   if (is_foreign && !is_ascii(name)) return {};
   if ((classes & kZero) != 0) decoded = until_zero(decoded);
-  if (!is_foreign || is_ascii(decoded)) {
+  if (!is_foreign) {
     if ((classes & kIllegal) != 0) clean_name(units, units + decoded.size());
     return decoded;
   }
