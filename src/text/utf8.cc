@@ -84,10 +84,9 @@ bool decode_utf8(std::string_view utf8, std::wstring& wide) {
   wide.resize(utf8.size());
   std::size_t written = 0;
   std::size_t position = 0;
-  std::uint32_t character = 0;
   while (position < utf8.size()) {
     // Most text is ASCII, and that needs no form to be looked for.
-    character = code_of(utf8[position]);
+    std::uint32_t character = code_of(utf8[position]);
     if (character < 0x80) {
       ++position;
     } else if (!read_character(utf8, position, character)) {
