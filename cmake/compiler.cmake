@@ -22,6 +22,12 @@ if(KORVANE_SANITIZE)
   add_link_options(-fsanitize=address,undefined,integer)
 endif()
 
+# Counted together with what other threads count.
+if(KORVANE_COVERAGE)
+  add_compile_options(--coverage -fprofile-update=atomic)
+  add_link_options(--coverage)
+endif()
+
 if(KORVANE_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
