@@ -56,7 +56,7 @@ function cLibrary() {
     return execFileSync('getconf', ['GNU_LIBC_VERSION'],
       { encoding: 'utf8', stdio: ['ignore', 'pipe', 'ignore'] }).trim();
   } catch (error) {
-    return error.code === 'ENOENT' ? 'unknown' : 'not glibc';
+    return error.status ? 'not glibc' : 'unknown';
   }
 }
 

@@ -10,17 +10,17 @@ const { assert, helper, test } = require('../script/harness');
 const { copyModule, edit, makeFolder, remove, replace, setMachine } =
   require('./copies');
 
-const newer = process.env.KORVANE_OTHER_RUNTIME;
+const another = process.env.KORVANE_OTHER_RUNTIME;
 const count = Object.keys(helper).length;
 const here = `linux-${process.arch}`;
 const otherArchitecture = process.arch === 'x64' ? 'arm64' : 'x64';
 const own = `interface-${process.versions.modules}`;
 const prebuilt = `prebuilds/${here}/${own}`;
 
-const print = (code) => execFileSync(newer, ['-p', code],
+const print = (code) => execFileSync(another, ['-p', code],
   { encoding: 'utf8' }).trim();
-const newerVersion = print('process.version');
-const newerInterface = `interface-${print('process.versions.modules')}`;
+const anotherVersion = print('process.version');
+const anotherInterface = `interface-${print('process.versions.modules')}`;
 
 // A folder with the loader and, in each of `places`, the module and the host
 // library; a place is a path, or [path, change] for an altered module.
@@ -52,9 +52,11 @@ function load(folder, { runtime = process.execPath, launcher = [],
 
 function says(folder, options, problem, there) {
   const { target = here, wanted = own, version = process.version,
-    library = /glibc \d\.\d+/,
-    command = 'script/bootstrap && cmake --preset release && ' +
-      'cmake --build --preset release' } = options;
+    library = /glibc \d\.\d+/ } = options;
+  const [major] = /\d+/.exec(version);
+  const command = major === '8' ? 'script/bootstrap && ' +
+    'cmake --preset release && cmake --build --preset release'
+    : `script/test --runtime ${major}`;
   const lines = load(folder, options).split('\n');
   const library_ = lines[1].replace(/.*C library /, '');
   assert(library_.match(library), library_);
@@ -68,8 +70,8 @@ function says(folder, options, problem, there) {
 }
 
 const none = 'no module is built for this runtime';
-const other = { runtime: newer, wanted: newerInterface, version: newerVersion,
-  command: `script/test --runtime ${/\d+/.exec(newerVersion)}` };
+const other = { runtime: another, wanted: anotherInterface,
+  version: anotherVersion };
 
 test('a prebuilt module comes before one built for the runtime, and that ' +
   'before the product\'s', () => {
@@ -146,8 +148,10 @@ test('a C library that does not tell its version is named as far as known',
     const bin = path.join(folder, 'bin');
     fs.mkdirSync(bin);
     const env = Object.assign({}, process.env, { PATH: bin });
+    const getconf = path.join(bin, 'getconf');
     says(folder, { env, library: /^unknown$/ }, none, 'none');
-    fs.writeFileSync(path.join(bin, 'getconf'), '#!/bin/sh\nexit 1\n',
-      { mode: 0o755 });
+    fs.writeFileSync(getconf, '#!/bin/sh\nexit 1\n', { mode: 0o644 });
+    says(folder, { env, library: /^unknown$/ }, none, 'none');
+    fs.chmodSync(getconf, 0o755);
     says(folder, { env, library: /^not glibc$/ }, none, 'none');
   });
