@@ -15,9 +15,14 @@ endif()
 add_compile_options(-fno-semantic-interposition)
 
 if(KORVANE_SANITIZE)
+  set(IGNORE_LIST ${PROJECT_SOURCE_DIR}/cmake/sanitizer_ignorelist.txt)
   add_compile_options(-fsanitize=address,undefined,integer
     -fno-sanitize-recover=all -fno-omit-frame-pointer -funsigned-char
-    -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/sanitizer_ignorelist.txt)
+    -fsanitize-ignorelist=${IGNORE_LIST})
+  if(CCACHE)  # does not know by itself that this file matters
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_EXTRAFILES=${IGNORE_LIST} ${CCACHE})
+  endif()
   add_compile_definitions(KORVANE_SANITIZED)
   add_link_options(-fsanitize=address,undefined,integer)
 endif()

@@ -1,0 +1,20 @@
+# The runtime with the sanitizers' library as the first that it needs: loaded
+# first as if by LD_PRELOAD, which what the runtime starts would inherit.
+find_program(PATCHELF patchelf REQUIRED)
+execute_process(COMMAND ${CMAKE_CXX_COMPILER}
+    -print-file-name=libclang_rt.asan-${CMAKE_SYSTEM_PROCESSOR}.so
+  OUTPUT_VARIABLE SANITIZERS OUTPUT_STRIP_TRAILING_WHITESPACE
+  COMMAND_ERROR_IS_FATAL ANY)
+set(SANITIZED_RUNTIME ${PROJECT_BINARY_DIR}/node)
+add_custom_command(OUTPUT ${SANITIZED_RUNTIME}
+  COMMAND ${PATCHELF} --add-needed ${SANITIZERS}
+    --output ${SANITIZED_RUNTIME} ${RUNTIME}
+  DEPENDS ${RUNTIME})
+add_custom_target(sanitized_runtime ALL DEPENDS ${SANITIZED_RUNTIME})
+# A leak is known by who asked for the memory. Tests that watch the process's
+# size allow for little freed memory that is kept aside.
+set(KNOWN_LEAKS ${CMAKE_CURRENT_SOURCE_DIR}/known_leaks.txt)
+set(RUNTIME ${CMAKE_COMMAND} -E env
+    ASAN_OPTIONS=malloc_context_size=2:quarantine_size_mb=16
+  LSAN_OPTIONS=suppressions=${KNOWN_LEAKS}:print_suppressions=0
+  ${SANITIZED_RUNTIME})
