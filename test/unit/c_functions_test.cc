@@ -8,8 +8,8 @@
 #include <string>
 #include <utility>
 
-#include "allocation_counter.h"
 #include "exact_copy.h"
+#include "failing_calls.h"
 #include "rows.h"
 #include "url/korvane_links.h"
 
@@ -189,22 +189,6 @@ TEST(LinkFunctions, AllocateOnlyForForeignText) {
               base64_decode(out.hash, &size, text, size);
             }),
             0U);
-}
-
-TEST(LinkFunctions, AnswerWantOfMemoryAndWriteNothing) {
-  check<std::wstring, std::wstring, std::size_t>(
-      "allocating", [](const std::wstring& name, const std::wstring& text,
-                       std::size_t least) {
-        const auto& [call, failure] = functions().at(name);
-        Outputs out = patterned();
-        const std::size_t count = fail_each_allocation(
-            [&, call = call] { return call(out, text.data(), text.size()); },
-            [&, want = failure](long answer) {
-              EXPECT_EQ(answer, want);
-              EXPECT_TRUE(is_untouched(out));
-            });
-        return count >= least && !is_untouched(out);
-      });
 }
 
 }  // namespace
