@@ -28,11 +28,11 @@ void KorvaneHelper::AttachClipBoard(const Arguments& arguments) {
   if (!accepts<Kind::kFunction>(arguments)) return;
   v8::Isolate* isolate = arguments.GetIsolate();
   const v8::HandleScope scope(isolate);
-  // Never freed: a registration lasts as long as the process.
-  auto* holder = new CallbackHolder(isolate, arguments[0]);
   const std::vector<std::wstring> links = clipboard_links();
   v8::Local<v8::Value> values[] = {v8::Number::New(isolate, 1),
                                    v8::Undefined(isolate)};
   if (!links.empty()) values[1] = script_list(isolate, links);
+  // Never freed: a registration lasts as long as the process.
+  auto* holder = new CallbackHolder(isolate, arguments[0]);
   holder->call(2, values);
 }

@@ -31,9 +31,10 @@ std::string_view without_path(std::string_view url) {
 }  // namespace
 
 void KorvaneHelper::IsPingHostValid(const Arguments& arguments) {
+  answer_number(arguments, 0);
   const Utf8Argument<kUrlCapacity> url(arguments, 0);
   const std::string host(without_path(without_scheme(url.c_str())));
-  answer_number(arguments, gethostbyname(host.c_str()) != nullptr ? 1 : 0);
+  if (gethostbyname(host.c_str()) != nullptr) answer_number(arguments, 1);
 }
 
 void KorvaneHelper::GetCurInternetState(const Arguments& arguments) {

@@ -7,7 +7,7 @@
 // 2. An argument beyond the count reads as undefined.
 // 3. Nothing throws into script. Text that cannot be read is empty, a number
 //    that cannot be read is not-a-number, an answer that cannot be made is
-//    undefined.
+//    undefined. Want of memory ends a function with the answer given so far.
 #ifndef KORVANE_SCRIPT_VALUES_H_
 #define KORVANE_SCRIPT_VALUES_H_
 
@@ -19,6 +19,17 @@
 #include "runtime_port.h"
 
 using Arguments = v8::FunctionCallbackInfo<v8::Value>;
+
+// A function that asks for memory, as the runtime may call it: no exception may
+// reach the runtime, and nothing but want of memory throws.
+template <v8::FunctionCallback function>
+void guarded(const Arguments& arguments) noexcept {
+  try {
+    function(arguments);
+  } catch (...) {
+    return;
+  }
+}
 
 // Stands around code that may run script code (conversions of objects, calls)
 // and drops what it throws. A script that is being terminated stays so.

@@ -13,6 +13,7 @@
 #include <tuple>
 
 #include "exact_copy.h"
+#include "failing_calls.h"
 #include "rows.h"
 #include "url/korvane_links.h"
 
