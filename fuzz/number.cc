@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstring>
 #include <cwctype>
+#include <limits>
 
 #include "fuzz.h"
 #include "text/format_utility.h"
@@ -131,8 +132,10 @@ void check_case(const std::wstring& text, const std::wstring& pattern) {
           "where it points");
   const int order =
       string_utility_t<wchar_t>::compare_nocase(a.c_str(), b.c_str());
-  require(sign(order) == -sign(string_utility_t<wchar_t>::compare_nocase(
-                             b.c_str(), a.c_str(), 1)),
+  // The C library subtracts units; one difference has no opposite.
+  require(order == std::numeric_limits<int>::min() ||
+              sign(order) == -sign(string_utility_t<wchar_t>::compare_nocase(
+                                 b.c_str(), a.c_str(), 1)),
           "the order turned round");
   if (lowered(a) == lowered(b)) require(order == 0, "equal but for case");
   const bool is_true = lowered(a) == L"true" || a == L"1";
