@@ -15,8 +15,9 @@ class transcode {
   // The converters. Null text or length 0 empties the output. The result ends
   // at the first zero unit, at the first invalid, incomplete or unmappable
   // sequence, and where the output room is used up: 3 x length + 1 bytes for
-  // Unicode_to_UTF8, so text of several characters beyond U+FFFF may be cut;
-  // more than any valid text needs for the others. Nothing is reported.
+  // Unicode_to_UTF8 and 2 x length for GBK_to_UTF8, so text of several
+  // characters beyond U+FFFF, or of signs of the euro alone, may be cut; more
+  // than any valid text needs for the others. Nothing is reported.
   static void Unicode_to_UTF8(const wchar_t* text, unsigned length,
                               std::string& utf8);
   static void UTF8_to_Unicode(const char* text, unsigned length,

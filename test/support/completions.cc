@@ -1,6 +1,8 @@
 // Gives a script what it cannot reach in the module: the completion functions,
 // which nothing on this platform calls, and a function that has no name. The
-// last argument of each becomes its holder.
+// last argument of each becomes its holder. And tells what memory is in use.
+#include <malloc.h>
+
 #include "korvane_helper.h"
 
 namespace {
@@ -67,12 +69,18 @@ void query_file_exists(const Arguments& arguments) {
   KorvaneHelper::ExportQueryFileExists(arguments);
 }
 
+// What was allocated beside the script engine's own heap.
+void bytes_in_use(const Arguments& arguments) {
+  arguments.GetReturnValue().Set(static_cast<double>(mallinfo2().uordblks));
+}
+
 void register_functions(v8::Local<v8::Object> exports) {
   NODE_SET_METHOD(exports, "onIsSSD", on_is_ssd);
   NODE_SET_METHOD(exports, "onGetDriveMediaType", on_get_drive_media_type);
   NODE_SET_METHOD(exports, "onGetCpuList", on_get_cpu_list);
   NODE_SET_METHOD(exports, "onGetAppList", on_get_app_list);
   NODE_SET_METHOD(exports, "queryFileExists", query_file_exists);
+  NODE_SET_METHOD(exports, "bytesInUse", bytes_in_use);
 }
 
 }  // namespace

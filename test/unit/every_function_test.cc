@@ -22,6 +22,14 @@
 #include "url/korvane_url.h"
 #include "url/url_object.h"
 
+#ifdef __SANITIZE_THREAD__
+// The converters' modules are loaded under locks that the sanitizer does not
+// know.
+extern "C" const char* __tsan_default_suppressions() {
+  return "called_from_lib:libc.so.6\ncalled_from_lib:ld-linux\n";
+}
+#endif
+
 namespace {
 
 using qk::text::transcode;
