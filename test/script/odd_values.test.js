@@ -16,8 +16,8 @@ revoke();
 
 const oddValues = [
   Symbol('odd'), { toString: throwing, valueOf: throwing }, Object.create(null),
-  new String('boxed'), NaN, Infinity, -Infinity, 2 ** 53, 'x'.repeat(100000),
-  '\ud800', 'a\udc00\0b', throwing, proxy, null, -1.5, true,
+  new String('boxed'), NaN, Infinity, -Infinity, 2 ** 53, '\ud800',
+  '中\ud800'.repeat(2 ** 19), 'a\udc00\0b', throwing, proxy, null, -1.5, true,
   { [Symbol.toPrimitive]: () => ({}) },
 ];
 
