@@ -13,5 +13,6 @@ endfunction()
 
 add_locale(en_US.UTF-8 en_US UTF-8)
 add_locale(zh_CN.GBK zh_CN GBK)
+add_locale(en_US.CP1252 en_US CP1252)
 add_locale(en_US.KOI8-R en_US KOI8-R)
 add_custom_target(test_locales ALL DEPENDS ${LOCALE_FOLDERS})

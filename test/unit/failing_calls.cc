@@ -10,7 +10,7 @@ namespace {
 thread_local Call counted = Call::kNew;
 thread_local std::size_t calls = 0;
 thread_local std::size_t failing_call = 0;
-thread_local std::size_t held_now = 0;
+thread_local std::ptrdiff_t held_now = 0;
 
 bool fails(Call kind) { return kind == counted && ++calls == failing_call; }
 
@@ -26,7 +26,7 @@ CallCounter::~CallCounter() { failing_call = 0; }
 
 std::size_t CallCounter::count() { return calls; }
 
-std::size_t held() { return held_now; }
+std::ptrdiff_t held() { return held_now; }
 
 // The array and the nothrow forms of the library come down to these.
 void* operator new(std::size_t size) {

@@ -23,8 +23,9 @@ class CallCounter {
   static std::size_t count();
 };
 
-// How many blocks of memory and converters there are.
-std::size_t held();
+// How many more blocks of memory and converters this thread took than it gave
+// back; another thread may do either.
+std::ptrdiff_t held();
 
 template <typename Function>
 std::size_t allocations_of(Function function) {
@@ -41,7 +42,7 @@ std::size_t fail_each(Call kind, Function function, Check check) {
   for (std::size_t failing = 1;; ++failing) {
     std::optional<decltype(function())> answer;
     std::size_t asked_for = 0;
-    const std::size_t held_before = held();
+    const std::ptrdiff_t held_before = held();
     {
       const CallCounter counter(kind, failing);
       answer = function();

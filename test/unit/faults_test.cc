@@ -234,9 +234,9 @@ TEST(Faults, AreAnsweredAndLeaveNothing) {
       if (kind != Call::kNew && row.without_converter == nullptr) continue;
       const std::size_t count = fail_each(
           kind, [&] { return as_wanted(kind); },
-          [&](bool wanted, std::size_t more) {
+          [&](bool wanted, std::ptrdiff_t more) {
             EXPECT_TRUE(wanted) << row.name << ": " << got;
-            EXPECT_EQ(more, 0U) << row.name;
+            EXPECT_EQ(more, 0) << row.name;
             EXPECT_EQ(row.call(), usual) << row.name;
           });
       EXPECT_GT(count, 0U) << row.name;
