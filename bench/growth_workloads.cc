@@ -98,6 +98,7 @@ Contender growing(std::string name, std::size_t operations, Read read,
 void grow_length(const Table& table, const std::string& workload,
                  const Shape& shape, Read read) {
   std::vector<Contender> lengths;
+  lengths.reserve(kSizes.size());
   for (const std::size_t size : kSizes) {
     const std::size_t fixed = shape.begin.size() + shape.end.size();
     lengths.push_back(growing(std::to_string(size) + " characters", size, read,
@@ -109,6 +110,7 @@ void grow_length(const Table& table, const std::string& workload,
 void grow_count(const Table& table, const std::string& workload,
                 const Shape& shape, Read read) {
   std::vector<Contender> counts;
+  counts.reserve(kSizes.size());
   for (const std::size_t count : kSizes) {
     counts.push_back(growing(std::to_string(count) + " of them", count, read,
                              shaped(shape, count * shape.filling.size())));

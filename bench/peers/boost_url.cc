@@ -9,11 +9,11 @@
 namespace urls = boost::urls;
 
 bool peers::boost_url(const std::string& url) {
-  static std::string user;
-  static std::string password;
   const auto parsed = urls::parse_uri(url);
   if (!parsed) return false;
   if (parsed->has_userinfo()) {
+    static std::string user;
+    static std::string password;
     parsed->user(urls::string_token::assign_to(user));
     parsed->password(urls::string_token::assign_to(password));
   }

@@ -65,11 +65,11 @@ bool peers::glib_parts(const std::string& url) {
       G_URI_FLAGS_ENCODED_QUERY | G_URI_FLAGS_ENCODED_FRAGMENT);
   char* texts[6] = {};
   int port = 0;
-  const bool taken = g_uri_split_with_user(
+  const gboolean taken = g_uri_split_with_user(
       url.c_str(), kFlags, &texts[0], &texts[1], &texts[2], nullptr, &texts[3],
       &port, &texts[4], &texts[5], nullptr, nullptr);
   for (char* text : texts) g_free(text);
-  return taken;
+  return taken != 0;
 }
 
 bool peers::curl_unescape(const std::string& text) {
