@@ -42,7 +42,7 @@ std::wstring name_slowly(const std::wstring& text, unsigned code_page) {
   std::wstring name = separator == kNowhere ? rest : rest.substr(separator + 1);
   // Without a separator the text is the name, "&" and all.
   if (query != kNowhere && separator != kNowhere) {
-    name = name.substr(0, name.find(L'&'));
+    name.resize(std::min(name.find(L'&'), name.size()));
   }
   name.erase(0, name.find_first_not_of(kIllegal));
   for (wchar_t& unit : name) {
