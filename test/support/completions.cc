@@ -52,17 +52,11 @@ void on_get_drive_media_type(const Arguments& arguments) {
                                 read_int32(arguments, 1), holder(arguments)));
 }
 
-// onGetCpuList(names, callback): a name is a list of wide units.
-void on_get_cpu_list(const Arguments& arguments) {
-  answer_integer(arguments, KorvaneHelper::OnGetCpuList(
-                                7, read_list<std::wstring>(arguments[0]),
-                                holder(arguments)));
-}
-
-void on_get_app_list(const Arguments& arguments) {
-  answer_integer(arguments, KorvaneHelper::OnGetAppList(
-                                7, read_list<std::wstring>(arguments[0]),
-                                holder(arguments)));
+// onGetCpuList(names, callback), onGetAppList: a name is a list of wide units.
+template <auto kFunction>
+void on_names(const Arguments& arguments) {
+  answer_integer(arguments, kFunction(7, read_list<std::wstring>(arguments[0]),
+                                      holder(arguments)));
 }
 
 void query_file_exists(const Arguments& arguments) {
@@ -77,8 +71,10 @@ void bytes_in_use(const Arguments& arguments) {
 void register_functions(v8::Local<v8::Object> exports) {
   NODE_SET_METHOD(exports, "onIsSSD", on_is_ssd);
   NODE_SET_METHOD(exports, "onGetDriveMediaType", on_get_drive_media_type);
-  NODE_SET_METHOD(exports, "onGetCpuList", on_get_cpu_list);
-  NODE_SET_METHOD(exports, "onGetAppList", on_get_app_list);
+  NODE_SET_METHOD(exports, "onGetCpuList",
+                  on_names<KorvaneHelper::OnGetCpuList>);
+  NODE_SET_METHOD(exports, "onGetAppList",
+                  on_names<KorvaneHelper::OnGetAppList>);
   NODE_SET_METHOD(exports, "queryFileExists", query_file_exists);
   NODE_SET_METHOD(exports, "bytesInUse", bytes_in_use);
 }

@@ -95,26 +95,6 @@ TEST_F(XWindowDisplayTest, GetWindowRectCountsThePositionTwice) {
   }
 }
 
-// Not beside a window manager, which takes the focus.
-TEST_F(XWindowDisplayTest, IsInFullScreenLooksAtTheWindowInFocus) {
-  const int w = screen()[2];
-  const int h = screen()[3];
-  const std::pair<std::vector<Nest>, bool> cases[] = {
-      {{{{0, 0, w, h}, 0}}, true},
-      {{{{0, 0, w - 1, h}, 0}}, false},
-      {{{{0, -1, w, h}, 1}}, false},                       // twice: -1, 1
-      {{{{-10, -10, w, h}, 0}, {{5, 5, w, h}, 0}}, true},  // at 0, 0
-      {{{{-9, -10, w, h}, 0}, {{5, 5, w, h}, 0}}, false},  // at 1, 0
-      {{}, false},
-  };
-  for (const auto& [nests, want] : cases) {
-    const Window window = create_nested(client_, nests);
-    XSetInputFocus(client_.display(), window, RevertToNone, CurrentTime);
-    XSync(client_.display(), False);
-    EXPECT_EQ(XWindow::IsInFullScreen(), want) << nests.size() << " nested";
-  }
-}
-
 TEST_F(XWindowDisplayTest, TellsTheScreenAndThePointer) {
   const int right = screen()[2] - 1;
   const int bottom = screen()[3] - 1;
@@ -187,10 +167,6 @@ TEST_F(XWindowDisplayTest, LeavesRefusedRequestsToTheErrorHandler) {
   };
   for (const auto& [call, word] : cases) {
     EXPECT_EXIT((call(), std::exit(0)), testing::ExitedWithCode(1), word);
-    // A host's own handler that returns, in a process of its own.
-    EXPECT_EXIT((XSetErrorHandler([](Display*, XErrorEvent*) { return 0; }),
-                 call(), std::exit(0)),
-                testing::ExitedWithCode(0), "");
   }
 }
 

@@ -132,12 +132,6 @@ std::vector<Row> rows_of(std::string_view name) {
   return table.rows;
 }
 
-std::wstring wanted(const Row& row) {
-  std::wstring all = row[1];
-  for (std::size_t i = 2; i < row.size(); ++i) all += L" " + row[i];
-  return all;
-}
-
 unsigned long number(const std::wstring& field) {
   return field == L"nowhere" ? std::wstring::npos
                              : std::stoul(field, nullptr, 0);

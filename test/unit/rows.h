@@ -28,9 +28,6 @@ using Row = std::vector<std::wstring>;
 // The rows of the table of that name; none is a failure of the running test.
 std::vector<Row> rows_of(std::string_view name);
 
-// The fields from the second on, with a blank between them.
-std::wstring wanted(const Row& row);
-
 // The number in a field; negative ones wrap, "nowhere" is npos.
 unsigned long number(const std::wstring& field);
 
