@@ -61,14 +61,6 @@ test('a display that refuses the cookie is none', () => {
     { x: 0, y: 0, width: 0, height: 0 }, false, false, 1]);
 });
 
-test('without a display the factor is 1', () => {
-  const nowhere = [['env', '-u', 'DISPLAY'], ['env', 'DISPLAY='],
-    ['env', 'DISPLAY=:4294967'], ['env', 'DISPLAY=nowhere:0']];
-  for (const launcher of nowhere) {
-    assert.deepStrictEqual(evaluate(launcher, both), [1, 1], launcher[1]);
-  }
-});
-
 test('setDefaultDPI sets the reference', () => {
   const cases = [
     // the reference given, the factor on a screen of 96 dots per inch
