@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <fstream>
+#include <iomanip>
 #include <map>
+#include <sstream>
 
 #include "text/utf8.h"
 
@@ -51,54 +52,34 @@ std::wstring units_of(std::string text, const Table& table) {
   return units;
 }
 
-// Takes one field off the start of `line`; a quoted one with its first quote.
-std::string take_field(std::string_view& line) {
-  const bool is_quoted = line.front() == '"';
-  const std::size_t end = line.find(is_quoted ? '"' : ' ', 1);
-  std::string field(line.substr(0, end));
-  line.remove_prefix(std::min(end, line.size() - 1) + 1);
-  line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
-  return field;
-}
-
-// Adds the rows that the fields before and behind a "=>" make.
-void add_rows(Table& table, std::vector<std::string>& inputs,
-              std::vector<std::string>& wants) {
-  const auto text_of = [](const std::string& field) {
-    return field.front() == '"' ? field.substr(1) : field;
-  };
-  if (wants.empty()) {
-    wants.assign(inputs.begin() + 1, inputs.end());
-    inputs.resize(1);
-  }
-  for (const std::string& field : inputs) {
-    const std::string input = text_of(field);
-    Row row = {units_of(replaced(table.frame, "@", input), table)};
-    for (const std::string& want : wants) {
-      row.push_back(units_of(replaced(text_of(want), "$in", input), table));
-    }
-    table.rows.push_back(row);
-  }
-  inputs.clear();
-  wants.clear();
-}
-
-void add_line(Table& table, std::string_view line) {
+// Adds the rows of a line: one for each input where there is a "=>".
+void add_rows(Table& table, const std::string& line) {
+  std::istringstream words(line + " ;");
   std::vector<std::string> inputs;
-  std::vector<std::string> wants;
-  bool is_want = false;
-  while (!line.empty()) {
-    const std::string field = take_field(line);
-    if (field == "=>") {
-      is_want = true;
-    } else if (field == ";") {
-      is_want = false;
-      add_rows(table, inputs, wants);
-    } else {
-      (is_want ? wants : inputs).push_back(field);
+  std::vector<std::string> fields;
+  for (std::string word; words >> std::quoted(word, '"', '\0');) {
+    if (word == "=>") {
+      inputs.swap(fields);
+      continue;
     }
+    if (word != ";") {
+      fields.push_back(word);
+      continue;
+    }
+    if (inputs.empty()) {
+      inputs.push_back(fields.front());
+      fields.erase(fields.begin());
+    }
+    for (const std::string& input : inputs) {
+      Row row = {units_of(replaced(table.frame, "@", input), table)};
+      for (const std::string& field : fields) {
+        row.push_back(units_of(replaced(field, "$in", input), table));
+      }
+      table.rows.push_back(row);
+    }
+    inputs.clear();
+    fields.clear();
   }
-  add_rows(table, inputs, wants);
 }
 
 void read_file(Table& table, std::string_view name, const std::string& path) {
@@ -115,7 +96,7 @@ void read_file(Table& table, std::string_view name, const std::string& path) {
     } else if (is_inside && line.compare(0, 2, "> ") == 0) {
       table.frame = line.substr(2);
     } else if (is_inside) {
-      add_line(table, line);
+      add_rows(table, line);
     }
   }
 }
