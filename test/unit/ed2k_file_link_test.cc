@@ -142,7 +142,7 @@ TEST(Ed2kLink, PrintsTheFieldsThatTheFlagsName) {
       });
 }
 
-TEST(Ed2kLink, PrintsWhatWasSetWholeAndRaw) {
+TEST(Ed2kLink, PrintsSizesWholeAndNamesRaw) {
   ed2k_file_link link = fresh_link();
   link.set_file_name(L"|%\x4E2D\x1F600");
   link.set_file_size(~0UL);
