@@ -127,6 +127,21 @@ TEST_F(XWindowTest, TellsARefusedRequestFromOneThatWasNot) {
   EXPECT_EQ(open_descriptors(), before);
 }
 
+TEST_F(XWindowTest, WritesNothingWithoutADisplayOrAWindow) {
+  const std::string display = XDisplayName(nullptr);
+  setenv("DISPLAY", ":65000", 1);
+  for (const Operation operation : {set_pos, show, is_window, to_top, move,
+                                    full_screen, cursor, rectangle, screen}) {
+    EXPECT_EQ(run(operation), kNothing);
+  }
+  setenv("DISPLAY", display.c_str(), 1);
+  EXPECT_FALSE(XWindow::IsWindow(0));
+  int untouched = -9;
+  EXPECT_FALSE(
+      XWindow::GetWindowRect(0, untouched, untouched, untouched, untouched));
+  EXPECT_EQ(untouched, -9);
+}
+
 TEST_F(XWindowTest, ShowWindowTellsOnlyOfTheTwoCommandsItCarriesOut) {
   for (const int command : {INT_MIN, -1, 0, 1, 2, 3, 4, 5, 6, 9, INT_MAX}) {
     EXPECT_EQ(XWindow::ShowWindow(5, command), command == 0 || command == 5)
