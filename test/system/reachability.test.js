@@ -19,7 +19,7 @@ const replaced = {
     '10.0.0.6 other?http: other?https: known?https:',
     '10.0.0.7 https:', '10.0.0.8 known\\a', `10.0.0.9 ${longest}`,
     `10.0.0.10 ${shorter}`],
-  'resolv.conf': ['nameserver 127.0.0.1', 'options timeout:1 attempts:1'],
+  'resolv.conf': ['nameserver 127.0.0.1', 'options timeout:5 attempts:2'],
   'nsswitch.conf': ['hosts: files dns'],
 };
 // A copy of /etc, which may lack these files or link them to elsewhere.
