@@ -85,9 +85,11 @@ TEST(Ed2kLink, ReadsPortsAsTheCLibraryScansThem) {
     // NOLINTNEXTLINE(cert-err34-c): just what it is for
     if (std::sscanf(bytes(row[0]).c_str(), "%i", &port) != 1) port = 0;
     const std::wstring want = std::to_wstring(port & 0xFFFF);
-    for (const std::wstring host : {L"a:", L"\xE4:"}) {
-      EXPECT_EQ(fields_of(kLink + (L"sources," + host) + row[0] + L",z:9"),
-                (Row{L"yes", L"source=" + host + want, L"source=z:9"}));
+    for (std::wstring host : {L"a:", L"\xE4:"}) {
+      const std::wstring url = kLink + (L"sources," + host) + row[0] + L",z:9";
+      host += want;
+      EXPECT_EQ(fields_of(url), (Row{L"yes", L"source=" + host, L"source=z:9"}))
+          << row[0];
     }
   }
 }
