@@ -97,6 +97,7 @@ test('GetIp learns the address from its own broadcast', () => {
   const broadcast = (source) => `${up}
     ip addr add ${source}/32 dev lo 2>/dev/null || true
     ip route add 255.255.255.255 dev lo src ${source}
+    exec <&-  # the socket becomes descriptor 0
     export LD_PRELOAD=${process.env.KORVANE_WATCHED_CALLS}`;
   for (const source of ['127.0.0.1', '10.10.100.10']) {
     const { stdout, stderr, status } = run(broadcast(source), caller, 'ip');
