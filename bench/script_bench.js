@@ -32,7 +32,7 @@ function compare(workload, rival, goal, ours, theirs, rounds = ROUNDS) {
   }
   console.log([workload, median(times.ours).toFixed(2), rival,
     median(times.theirs).toFixed(2), median(times.ratios).toFixed(3),
-    goal.toFixed(2)].join('\t'));
+    goal === Infinity ? '' : goal.toFixed(2)].join('\t'));
 }
 
 let loops = 0;
@@ -87,14 +87,23 @@ function compareWindows() {
     });
 }
 
-// A process for each: a module is loaded once.
+// A process for each: a module is loaded once. Without a goal the row only
+// tells what loading the libraries costs.
 function compareRequire() {
-  const time = (file) => () => Number(execFileSync(process.execPath, ['-e', `
-    const { now } = require(${JSON.stringify(addon('calls'))});
-    const begin = now();
-    require(${JSON.stringify(file)});
-    console.log(now() - begin);`]));
-  compare('require', 'an addon of 163 empty functions', 1.15,
+  const time = (file, ...before) => () => {
+    const loaded = [addon('calls'), ...before].map((one) => JSON.stringify(one));
+    return Number(execFileSync(process.execPath, ['-e', `
+      const [{ now }] = [${loaded}].map((file) => require(file));
+      const begin = now();
+      require(${JSON.stringify(file)});
+      console.log(now() - begin);`]));
+  };
+  const desktop = addon('desktop');
+  compare('require, in a desktop process', '163 empty functions', 1.15,
+    time(modulePath, desktop), time(addon('functions'), desktop), 31);
+  compare('require, with its libraries', '163 functions, same libraries', 1.15,
+    time(modulePath), time(addon('linked_functions')), 31);
+  compare('require, with its libraries', '163 empty functions', Infinity,
     time(modulePath), time(addon('functions')), 31);
 }
 
