@@ -104,9 +104,8 @@ Texts downloads() {
 Texts urls_with_user() {
   return make_texts(3, [](Dice& dice) {
     return "ftp://" + dice.pick(kUsers) + ":" + dice.pick(kPasswords) +
-           dice.number(1000) + "@ftp." + host(dice) + ":2121/pub/releases/" +
-           dice.number(3000) + "/" + dice.pick(kWords) + "-" +
-           dice.number(1000) + dice.pick(kTypes);
+           dice.number(1000) + "@ftp." + host(dice) + ":2121/pub/" +
+           dice.pick(kWords) + "-" + dice.number(1000) + dice.pick(kTypes);
   });
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -54,19 +55,21 @@ class format_utility_t {
 extern template class format_utility_t<char>;
 extern template class format_utility_t<wchar_t>;
 
-// The number that `digits`, decimal digits only, stand for; the largest number
-// if it is beyond 64 bits; 0 if there are none. What str_to_uint64 gives for
-// the same text, and str_to_uint32 in its low half, without a terminator.
+// The number that `digits` stand for: the largest number if it is beyond 64
+// bits, 0 if there are none, nothing if one is no decimal digit. What
+// str_to_uint64 gives for digits, and str_to_uint32 in its low half, without a
+// terminator.
 template <typename Unit>
-constexpr std::uint64_t decimal_value(std::basic_string_view<Unit> digits) {
+constexpr std::optional<std::uint64_t> decimal_value(
+    std::basic_string_view<Unit> digits) {
   constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
   std::uint64_t value = 0;
   for (const Unit unit : digits) {
+    if (unit < Unit('0') || unit > Unit('9')) return std::nullopt;
     const auto digit = static_cast<std::uint64_t>(unit - Unit('0'));
-    if (value >= kMost / 10 && (value > kMost / 10 || digit > kMost % 10)) {
-      return kMost;
-    }
-    value = value * 10 + digit;
+    const bool fits =
+        value < kMost / 10 || (value == kMost / 10 && digit <= kMost % 10);
+    value = fits ? value * 10 + digit : kMost;
   }
   return value;
 }

@@ -36,18 +36,26 @@ static_assert(offsetof(url_info_u, path_len) == 4136);
 static_assert(offsetof(url_info_u, path) == 4144);
 static_assert(offsetof(url_info_u, code_page) == 12336);
 
+// What a field of fewer units holds is mostly so short that a call to copy it
+// costs more than the copy.
+constexpr std::size_t kLongField = 1024;
+
 template <std::size_t kCapacity>
 bool put(std::wstring_view text, std::uint64_t& length,
          wchar_t (&field)[kCapacity]) {
   if (text.size() > kCapacity) return false;
   length = text.size();
-  text.copy(field, kCapacity);
+  if constexpr (kCapacity < kLongField) {
+    for (std::size_t i = 0; i < text.size(); ++i) field[i] = text[i];
+  } else {
+    std::copy(text.begin(), text.end(), field);
+  }
   return true;
 }
 
 std::wstring_view decoded(std::wstring_view text, unsigned code_page,
                           ScratchText& scratch) {
-  if (text.empty()) return text;
+  if (qk::url::is_decoded(text)) return text;
   return decode_with_code_page(text, code_page, scratch).text;
 }
 

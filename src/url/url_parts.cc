@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <optional>
 
 #include "text/code_of.h"
 #include "text/format_utility.h"
@@ -18,41 +19,56 @@ constexpr std::wstring_view kSchemeEnd = L"://";
 
 constexpr std::wstring_view kNoPath = L"/";
 
-// A scheme in lower case, packed into a number to be compared at once. All
-// texts that are too long for one, or not ASCII, are one that is no scheme.
-struct PackedScheme {
-  std::size_t size = 0;
-  std::uint64_t units = 0;
+// A scheme's name in lower case and its size, packed into a number to be
+// compared at once.
+class PackedName {
+ public:
+  constexpr void put(std::uint32_t code) {
+    // Makes capitals small, and letters of nothing else.
+    units_ = units_ << 8 | code | 0x20;
+    seen_ |= code;
+    ++size_;
+  }
+  // The same for all names that are too long or not ASCII: that of no scheme.
+  constexpr std::uint64_t value() const {
+    return seen_ < 0x80 && size_ < 8 ? units_ | size_ << 56 : 0;
+  }
+
+ private:
+  std::uint64_t units_ = 0;
+  std::uint64_t size_ = 0;
+  std::uint32_t seen_ = 0;
 };
 
 template <typename Unit>
-constexpr PackedScheme pack_scheme(std::basic_string_view<Unit> schema) {
-  PackedScheme packed = {schema.size(), 0};
-  if (schema.size() > sizeof(packed.units)) return {};
-  for (const Unit unit : schema) {
-    const std::uint32_t code = text::code_of(unit);
-    if (code >= 0x80) return {};
-    const bool is_capital = code >= 'A' && code <= 'Z';
-    packed.units = packed.units << 8 | (is_capital ? code | 0x20 : code);
-  }
-  return packed;
+constexpr std::uint64_t pack_name(std::basic_string_view<Unit> name) {
+  PackedName packed;
+  for (const Unit unit : name) packed.put(text::code_of(unit));
+  return packed.value();
 }
 
 struct Scheme {
-  constexpr Scheme(std::string_view text, SCHEMA_TYPE its_type)
-      : packed(pack_scheme(text)), type(its_type) {}
-
-  PackedScheme packed;
+  std::uint64_t name;
   SCHEMA_TYPE type;
 };
 
 constexpr Scheme kSchemes[] = {
-    {"http://", SCHEMA_HTTP},   {"ftp://", SCHEMA_FTP},
-    {"mms://", SCHEMA_MMS},     {"rtsp://", SCHEMA_RTSP},
-    {"https://", SCHEMA_HTTPS}, {"ftps://", SCHEMA_FTPS},
-    {"mmst://", SCHEMA_MMST},   {"rtspt://", SCHEMA_RTSPT},
-    {"peer://", SCHEMA_PEER},
+    {pack_name("http"sv), SCHEMA_HTTP},   {pack_name("ftp"sv), SCHEMA_FTP},
+    {pack_name("mms"sv), SCHEMA_MMS},     {pack_name("rtsp"sv), SCHEMA_RTSP},
+    {pack_name("https"sv), SCHEMA_HTTPS}, {pack_name("ftps"sv), SCHEMA_FTPS},
+    {pack_name("mmst"sv), SCHEMA_MMST},   {pack_name("rtspt"sv), SCHEMA_RTSPT},
+    {pack_name("peer"sv), SCHEMA_PEER},
 };
+
+// Looks at all of them: which one it is cannot be foreseen, and a wrong guess
+// costs more than the comparisons.
+SCHEMA_TYPE type_of_name(std::uint64_t name) {
+  SCHEMA_TYPE type = SCHEMA_UNKNOWN;
+  for (const Scheme& known : kSchemes) {
+    type = known.name == name ? known.type : type;
+  }
+  return type;
+}
 
 std::wstring_view without_leading_blanks(std::wstring_view text) {
   while (!text.empty() && is_one_of(text.front(), kBlank))
@@ -63,49 +79,64 @@ std::wstring_view without_leading_blanks(std::wstring_view text) {
 // The text from `begin` up to `end`.
 std::wstring_view between(std::wstring_view text, std::size_t begin,
                           std::size_t end) {
-  return text.substr(begin, end - begin);
+  return {text.data() + begin, end - begin};
 }
 
-// Where the scheme's "://" begins: near the start, so a plain loop finds it
-// before a search of the library has begun.
-std::size_t find_scheme_end(std::wstring_view text) {
-  for (std::size_t i = 0; i + kSchemeEnd.size() <= text.size(); ++i) {
-    if (text[i] == L':' && text[i + 1] == L'/' && text[i + 2] == L'/') return i;
+bool is_scheme_end(std::wstring_view text, std::size_t position) {
+  return text[position] == L':' &&
+         text.size() - position >= kSchemeEnd.size() &&
+         text[position + 1] == L'/' && text[position + 2] == L'/';
+}
+
+struct FoundScheme {
+  std::size_t size;  // with its "://"; 0 if there is none
+  SCHEMA_TYPE type;
+};
+
+FoundScheme find_scheme(std::wstring_view text) {
+  PackedName name;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (is_scheme_end(text, i)) {
+      if (i == 0) break;
+      return {i + kSchemeEnd.size(), type_of_name(name.value())};
+    }
+    name.put(text::code_of(text[i]));
   }
-  return kNowhere;
+  return {0, SCHEMA_UNKNOWN};
 }
 
 // Where the authority's separators stand, kNowhere for those that it lacks.
 struct Authority {
-  std::size_t end;         // its own: the first "/" or the end of the text
-  std::size_t user_end;    // the last "@"
-  std::size_t user_colon;  // the first ":" before that
-  std::size_t host_colon;  // the first ":" behind it
+  std::size_t end;                    // its own: the first "/" or the end
+  std::size_t user_end = kNowhere;    // the last "@"
+  std::size_t user_colon = kNowhere;  // the first ":" before that
+  std::size_t host_colon = kNowhere;  // the first ":" behind it
 };
 
-// A search for each: the C library looks at several units at once, where one
-// loop for all would stop and start at every separator.
+// One pass: authorities are too short for searches of the library to pay.
 Authority find_separators(std::wstring_view text, std::size_t begin) {
-  const std::size_t end = std::min(text.find(L'/', begin), text.size());
-  const std::wstring_view authority = text.substr(0, end);
-  std::size_t user_end = kNowhere;
-  for (std::size_t at = authority.find(L'@', begin); at != kNowhere;
-       at = authority.find(L'@', at + 1)) {
-    user_end = at;
+  Authority found = {begin};
+  for (; found.end < text.size(); ++found.end) {
+    const wchar_t unit = text[found.end];
+    if (unit > L'@') continue;  // most are letters
+    if (unit == L'/') break;
+    if (unit == L':') {
+      found.host_colon = std::min(found.host_colon, found.end);
+    } else if (unit == L'@') {
+      // What has been seen belongs to the user.
+      found.user_colon = std::min(found.user_colon, found.host_colon);
+      found.user_end = found.end;
+      found.host_colon = kNowhere;
+    }
   }
-  if (user_end == kNowhere) {
-    return {end, kNowhere, kNowhere, authority.find(L':', begin)};
-  }
-  return {end, user_end, authority.substr(0, user_end).find(L':', begin),
-          authority.find(L':', user_end + 1)};
+  return found;
 }
 
 // Reads an explicit port; empty digits are port 0.
 bool read_port(std::wstring_view digits, std::uint32_t& port) {
-  for (const wchar_t unit : digits) {
-    if (!url_object::is_digit(unit)) return false;
-  }
-  port = static_cast<std::uint32_t>(text::decimal_value(digits));
+  const std::optional<std::uint64_t> value = text::decimal_value(digits);
+  if (!value) return false;
+  port = static_cast<std::uint32_t>(*value & 0xFFFFFFFF);
   return true;
 }
 
@@ -168,14 +199,13 @@ void print_to(Sink& sink, const UrlParts& parts) {
 
 template <typename Unit>
 SCHEMA_TYPE schema_type_of(std::basic_string_view<Unit> schema) {
-  const PackedScheme packed = pack_scheme(schema);
-  for (const Scheme& known : kSchemes) {
-    if (known.packed.units == packed.units &&
-        known.packed.size == packed.size) {
-      return known.type;
-    }
+  constexpr Unit kEnd[] = {':', '/', '/'};
+  if (schema.size() < std::size(kEnd)) return SCHEMA_UNKNOWN;
+  const std::size_t size = schema.size() - std::size(kEnd);
+  if (!std::equal(std::begin(kEnd), std::end(kEnd), schema.begin() + size)) {
+    return SCHEMA_UNKNOWN;
   }
-  return SCHEMA_UNKNOWN;
+  return type_of_name(pack_name(schema.substr(0, size)));
 }
 
 template SCHEMA_TYPE schema_type_of(std::string_view schema);
@@ -183,13 +213,10 @@ template SCHEMA_TYPE schema_type_of(std::wstring_view schema);
 
 SplitUrl split_url(std::wstring_view url) {
   const std::wstring_view text = without_leading_blanks(url);
-  const std::size_t scheme_end = find_scheme_end(text);
-  if (scheme_end == kNowhere || scheme_end == 0) {
-    return {UrlFault::kNoScheme, {}};
-  }
-  std::size_t begin = scheme_end + kSchemeEnd.size();
-  const std::wstring_view schema = text.substr(0, begin);
-  const SCHEMA_TYPE type = schema_type_of(schema);
+  const auto [scheme_size, type] = find_scheme(text);
+  if (scheme_size == 0) return {UrlFault::kNoScheme, {}};
+  const std::wstring_view schema = text.substr(0, scheme_size);
+  std::size_t begin = scheme_size;
 
   const Authority authority = find_separators(text, begin);
   const bool has_path = authority.end < text.size();
