@@ -49,16 +49,18 @@ bool next_part(std::wstring_view& rest, wchar_t separator,
   return true;
 }
 
-// Whether the key of `item`, what stands before its first "=", is `name`: "xt"
-// stands for "xt" and for "xt.1", "xt.2", ...; puts what stands behind it, the
-// whole item if there is no "=", in `value`.
-constexpr bool has_key(std::wstring_view item, std::wstring_view name,
-                       std::wstring_view& value) {
-  if (!begins_with(item, name)) return false;
-  std::size_t sign = name.size();
-  if (sign < item.size() && item[sign] == L'.') sign = item.find(L'=', sign);
-  if (sign < item.size() && item[sign] != L'=') return false;
-  value = sign < item.size() ? item.substr(sign + 1) : item;
+// Whether the key of the first item of `rest`, what stands before its first
+// "=", is `name`: "xt" stands for "xt" and for "xt.1", "xt.2", ... If so,
+// `rest` goes on behind the "="; an item without one is its own value.
+constexpr bool has_key(std::wstring_view& rest, std::wstring_view name) {
+  if (!begins_with(rest, name)) return false;
+  std::size_t end = name.size();
+  if (end < rest.size() && rest[end] == L'.') {
+    end = std::min(rest.find_first_of(L"=&", end), rest.size());
+  }
+  if (end == rest.size() || rest[end] == L'&') return true;
+  if (rest[end] != L'=') return false;
+  rest.remove_prefix(end + 1);
   return true;
 }
 
@@ -81,9 +83,17 @@ template <typename Link>
 bool read_exact_topic(std::wstring_view value, Link& link) {
   if (!begins_with(value, kHashPrefix)) return false;
   link.put_has_info_hash();
-  return read_narrow(value.substr(kHashPrefix.size()), [&link](auto digits) {
-    return decode_info_hash(digits, link);
-  });
+  const std::wstring_view text = value.substr(kHashPrefix.size());
+  // What is a hash as it stands is one in every narrow encoding.
+  std::array<unsigned char, kHashSize> hash;
+  if (text.size() == kBase16Digits &&
+      decode_base16_pairs(qk::text::kHexValues, text.data(), kHashSize,
+                          hash.data()) == kHashSize) {
+    std::copy(hash.begin(), hash.end(), link.info_hash());
+    return true;
+  }
+  return read_narrow(
+      text, [&link](auto digits) { return decode_info_hash(digits, link); });
 }
 
 // Hands every field to `link` as soon as it is read; false for no link.
@@ -91,15 +101,16 @@ template <typename Link>
 bool read_link(std::wstring_view url, Link& link) {
   if (!begins_with(url, kPrefix)) return false;
   std::wstring_view rest = url.substr(kPrefix.size());
-  std::wstring_view item;
-  while (next_part(rest, L'&', item)) {
-    std::wstring_view value;
-    if (has_key(item, kExactTopic, value)) {
-      if (!read_exact_topic(value, link)) return false;
-    } else if (has_key(item, kTracker, value)) {
-      link.add_tracker(value);
-    } else if (has_key(item, kDisplayName, value)) {
-      link.put_display_name(value);
+  while (!rest.empty()) {
+    if (has_key(rest, kTracker)) {
+      link.take_tracker(rest);
+    } else if (has_key(rest, kDisplayName)) {
+      link.take_display_name(rest);
+    } else {
+      const bool is_exact_topic = has_key(rest, kExactTopic);
+      std::wstring_view value;
+      next_part(rest, L'&', value);
+      if (is_exact_topic && !read_exact_topic(value, link)) return false;
     }
   }
   return link.has_info_hash();
@@ -110,8 +121,12 @@ struct InfoHash {
   bool has_info_hash() const { return found; }
   void put_has_info_hash() { found = true; }
   unsigned char* info_hash() { return octets.data(); }
-  void add_tracker(std::wstring_view /*value*/) {}
-  void put_display_name(std::wstring_view /*value*/) {}
+  static void take_tracker(std::wstring_view& rest) { skip_value(rest); }
+  static void take_display_name(std::wstring_view& rest) { skip_value(rest); }
+  static void skip_value(std::wstring_view& rest) {
+    std::wstring_view value;
+    next_part(rest, L'&', value);
+  }
 
   std::array<unsigned char, kHashSize> octets{};
   bool found = false;
@@ -120,6 +135,8 @@ struct InfoHash {
 }  // namespace
 
 struct bt_magnet_url_parser::all_fields {
+  explicit all_fields(bt_magnet_url_parser& parser) : link(parser) {}
+
   bool has_info_hash() const { return link.has_info_hash_; }
   void put_has_info_hash() { link.has_info_hash_ = true; }
   char* info_hash() {
@@ -128,36 +145,50 @@ struct bt_magnet_url_parser::all_fields {
   }
   // Decoded twice (kept: callers rely on it), the second time but for the
   // escapes that keep the parts of the tracker's address apart.
-  void add_tracker(std::wstring_view value) {
+  void take_tracker(std::wstring_view& rest) {
     constexpr std::size_t kUsualTrackers = 8;
     if (link.trackers_.empty()) link.trackers_.reserve(kUsualTrackers);
     bool is_escaped = false;
-    const std::wstring_view once = decoded<Kept::kNothing>(
-        value, [&is_escaped](wchar_t unit) { is_escaped |= unit == L'%'; });
-    link.trackers_.emplace_back(
-        is_escaped ? decoded<Kept::kSeparating>(once, [](wchar_t) {}) : once);
+    std::wstring_view tracker = take_decoded(
+        rest, [&is_escaped](wchar_t unit) { is_escaped |= unit == L'%'; });
+    if (is_escaped) {
+      wchar_t* const begin = scratch.reserve(tracker.size());
+      const wchar_t* const end =
+          percent_decode<Kept::kSeparating>(tracker, begin);
+      tracker = {begin, static_cast<std::size_t>(end - begin)};
+    }
+    link.trackers_.emplace_back(tracker);
   }
-  void put_display_name(std::wstring_view value) {
-    link.display_name_ = decoded<Kept::kNothing>(value, [](wchar_t) {});
+  void take_display_name(std::wstring_view& rest) {
+    link.display_name_ = take_decoded(rest, [](wchar_t) {});
   }
 
-  // A view of `scratch`, which may hold `text` already.
-  template <Kept kKept, typename See>
-  std::wstring_view decoded(std::wstring_view text, See see) {
-    wchar_t* begin = scratch.reserve(text.size());
-    const wchar_t* end = percent_decode<kKept>(text, begin, see);
+  // The first value of `rest`, decoded; a view of `scratch`. In links of usual
+  // length its end is found on the way, not in a pass of its own.
+  template <typename See>
+  std::wstring_view take_decoded(std::wstring_view& rest, See see) {
+    const std::wstring_view text =
+        rest.size() <= kUsualLength ? rest : rest.substr(0, rest.find(L'&'));
+    wchar_t* const begin = scratch.reserve(text.size());
+    std::wstring_view left = text;
+    const wchar_t* const end = percent_decode_until(
+        [](wchar_t unit) { return unit == L'&'; }, left, begin, see);
+    const std::size_t read = text.size() - left.size();
+    rest.remove_prefix(std::min(read + 1, rest.size()));
     return {begin, static_cast<std::size_t>(end - begin)};
   }
 
+  static constexpr std::size_t kUsualLength = 1024;
+
   bt_magnet_url_parser& link;
-  ScratchText scratch;
+  Scratch<kUsualLength> scratch;
 };
 
 bt_magnet_url_parser::bt_magnet_url_parser(std::wstring url)
     : url_(std::move(url)) {}
 
 bool bt_magnet_url_parser::parse_magnet_url() {
-  all_fields fields{*this, {}};
+  all_fields fields(*this);
   return read_link(url_, fields);
 }
 

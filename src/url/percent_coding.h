@@ -35,25 +35,44 @@ enum class Kept {
 // may be the start of the text itself. A "%" that opens no escape is copied.
 // `see` is called with each unit that is written.
 //
+// Stops at the first unit outside of escapes that `ends` tells to; `text`
+// becomes what is left from there on.
+//
 // The units may be narrowed: wide ASCII text decodes straight to bytes.
-template <Kept kKept = Kept::kNothing, typename In, typename Out, typename See>
-Out* percent_decode(std::basic_string_view<In> text, Out* out, See see) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    Out unit = static_cast<Out>(text[i]);
-    if (text[i] == In('%')) {
-      const unsigned value = escape_at(text, i);
+template <Kept kKept = Kept::kNothing, typename In, typename Out, typename See,
+          typename Ends>
+Out* percent_decode_until(Ends ends, std::basic_string_view<In>& text, Out* out,
+                          See see) {
+  const In* const begin = text.data();
+  const In* const end = begin + text.size();
+  const In* in = begin;
+  for (; in != end; ++in) {
+    Out unit = static_cast<Out>(*in);
+    if (*in == In('%')) {
+      const unsigned value =
+          escape_at(text, static_cast<std::size_t>(in - begin));
       const bool kept = value == kNoEscape ||
                         (kKept == Kept::kSeparating &&
                          is_one_of(static_cast<wchar_t>(value), kReserved));
       if (!kept) {
         unit = static_cast<Out>(value);
-        i += 2;
+        in += 2;
       }
+    } else if (ends(*in)) {
+      break;
     }
     see(unit);
     *out++ = unit;
   }
+  text.remove_prefix(static_cast<std::size_t>(in - begin));
   return out;
+}
+
+// The whole of `text`.
+template <Kept kKept = Kept::kNothing, typename In, typename Out, typename See>
+Out* percent_decode(std::basic_string_view<In> text, Out* out, See see) {
+  return percent_decode_until<kKept>([](In /*unit*/) { return false; }, text,
+                                     out, see);
 }
 
 template <Kept kKept = Kept::kNothing, typename In, typename Out>

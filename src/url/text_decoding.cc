@@ -1,7 +1,5 @@
 #include "url/text_decoding.h"
 
-#include <utility>
-
 #include "host/korvane_host.h"
 #include "url/percent_coding.h"
 #include "url/url_object.h"
@@ -56,17 +54,6 @@ void convert(const std::string& bytes, unsigned code_page, ScratchText& scratch,
 }
 
 }  // namespace
-
-wchar_t* ScratchText::reserve(std::size_t size) {
-  if (size <= short_.size()) return short_.data();
-  long_.resize(size);
-  return long_.data();
-}
-
-std::wstring_view ScratchText::hold(std::wstring&& text) {
-  long_ = std::move(text);
-  return long_;
-}
 
 DecodedText decode_with_code_page(std::wstring_view text, unsigned code_page,
                                   ScratchText& scratch) {

@@ -7,24 +7,36 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "text/code_of.h"
 #include "url/character_classes.h"
 
 namespace qk::url {
 
-// Room for the text that a decoder makes: on the stack while it is short.
-class ScratchText {
+// Room for the text that a decoder makes: on the stack while it has no more
+// than `kShort` units, none of which is filled in advance.
+template <std::size_t kShort>
+class Scratch {
  public:
-  // Room for `size` units; what it held is gone.
-  wchar_t* reserve(std::size_t size);
+  // Room for `size` units; what it held is gone unless it had room already.
+  wchar_t* reserve(std::size_t size) {
+    if (size <= kShort) return short_.data();
+    long_.resize(size);
+    return long_.data();
+  }
   // Takes `text` over and gives a view of it.
-  std::wstring_view hold(std::wstring&& text);
+  std::wstring_view hold(std::wstring&& text) {
+    long_ = std::move(text);
+    return long_;
+  }
 
  private:
-  std::array<wchar_t, 256> short_;
+  std::array<wchar_t, kShort> short_;
   std::wstring long_;
 };
+
+using ScratchText = Scratch<256>;
 
 template <typename Unit>
 bool is_ascii(std::basic_string_view<Unit> text) {
@@ -39,6 +51,14 @@ struct DecodedText {
 
   bool holds(CharacterClasses some) const { return (classes & some) != 0; }
 };
+
+// Whether decoding leaves `text` as it is, whatever the code page.
+inline bool is_decoded(std::wstring_view text) {
+  for (const wchar_t unit : text) {
+    if (unit == L'%' || unit == L'\0') return false;
+  }
+  return true;
+}
 
 // Text that holds a unit above 127 counts as decoded and is given back as it
 // is. Other text is percent-decoded to bytes, up to the first zero, and read in
