@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <iterator>
 #include <optional>
 
 #include "text/code_of.h"
@@ -200,7 +201,10 @@ void print_to(Sink& sink, const UrlParts& parts) {
 template <typename Unit>
 SCHEMA_TYPE schema_type_of(std::basic_string_view<Unit> schema) {
   constexpr Unit kEnd[] = {':', '/', '/'};
-  if (schema.size() < std::size(kEnd)) return SCHEMA_UNKNOWN;
+  constexpr std::size_t kLongest = 8;  // "https://"
+  if (schema.size() < std::size(kEnd) || schema.size() > kLongest) {
+    return SCHEMA_UNKNOWN;
+  }
   const std::size_t size = schema.size() - std::size(kEnd);
   if (!std::equal(std::begin(kEnd), std::end(kEnd), schema.begin() + size)) {
     return SCHEMA_UNKNOWN;
