@@ -25,8 +25,8 @@ constexpr std::wstring_view kNoPath = L"/";
 class PackedName {
  public:
   constexpr void put(std::uint32_t code) {
-    // Makes capitals small, and letters of nothing else.
-    units_ = units_ << 8 | code | 0x20;
+    // 0x20 makes capitals small, and letters of nothing else.
+    units_ = (units_ & kKept) << 8 | code | 0x20;
     seen_ |= code;
     ++size_;
   }
@@ -36,6 +36,8 @@ class PackedName {
   }
 
  private:
+  static constexpr std::uint64_t kKept = (std::uint64_t{1} << 48) - 1;
+
   std::uint64_t units_ = 0;
   std::uint64_t size_ = 0;
   std::uint32_t seen_ = 0;
