@@ -50,12 +50,12 @@ struct Text {
 std::size_t use_urls(const Text& text) {
   url_info_u info;
   url_object url;
-  wchar_t printed[8192];
   std::wstring name(text.width() + 10, L'\0');
-  std::size_t printed_size = 8192;
   std::size_t name_size = name.size();
   unsigned supported = 0;
   if (parse_url_u(text.units(), text.width(), 65001, &info) == 0) {
+    wchar_t printed[8192];
+    std::size_t printed_size = 8192;
     url_info_to_str_u(printed, &printed_size, &info);
   }
   parse_filename_u(name.data(), &name_size, text.units(), text.width(), 0);
