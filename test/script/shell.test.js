@@ -60,6 +60,7 @@ test('System cuts the output after 20,479 bytes', () => {
 
 test('System waits for all of a slow command\'s output and its end', () => {
   check('System', ['echo 1; read x </dev/null; sleep 0.05; echo 2'], '1\n2\n');
+  check('System', ['{ sleep 0.05; echo 2; } & echo 1'], '1\n2\n');
   check('System', ['exec >&-; sleep 0.05; touch ended'], '');
   assert(fs.existsSync('ended'));
 });
