@@ -2,6 +2,7 @@
 #ifndef KORVANE_URL_TEXT_DECODING_H_
 #define KORVANE_URL_TEXT_DECODING_H_
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -54,10 +55,9 @@ struct DecodedText {
 
 // Whether decoding leaves `text` as it is, whatever the code page.
 inline bool is_decoded(std::wstring_view text) {
-  for (const wchar_t unit : text) {
-    if (unit == L'%' || unit == L'\0') return false;
-  }
-  return true;
+  return std::none_of(text.begin(), text.end(), [](wchar_t unit) {
+    return unit == L'%' || unit == L'\0';
+  });
 }
 
 // Text that holds a unit above 127 counts as decoded and is given back as it
