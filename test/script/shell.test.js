@@ -56,6 +56,10 @@ test('System cuts the output after 20,479 bytes', () => {
   check('System', ["printf '中%.0s' $(seq 7000)"],
     `${'中'.repeat(6826)}\ufffd`);  // the last character is cut
   check('System', ['yes'], 'y\n'.repeat(10240).slice(0, 20479));
+  // Its pipe is closed then; what does not look at that goes on to its end.
+  check('System', ['for i in $(seq 5000); do echo 12345; done 2>&-; touch end'],
+    '12345\n'.repeat(5000).slice(0, 20479));
+  assert(fs.existsSync('end'));
 });
 
 test('System waits for all of a slow command\'s output and its end', () => {
