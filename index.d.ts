@@ -3,15 +3,17 @@
  *
  * Every name is there on every platform, so a script can call it without
  * testing for it first. A call never throws: a missing or mistyped argument
- * gives the function's fallback. Texts, numbers and functions are tested, never
- * coerced: a `String` object is no text. Longer texts are cut silently where a
- * limit is given.
+ * gives the function's fallback. Texts, numbers and functions are tested and not
+ * coerced, unless the function says so: a `String` object is no text. Longer
+ * texts are cut silently where a limit is given.
  *
  * A function answers through its return value. None of those whose names begin
  * with "asyn" or "async" calls the function that it is given.
  *
- * A window is its X identifier; 0 is no window. Every window function opens the
- * display that `DISPLAY` names and closes it again.
+ * A window is its X identifier. That of a window that is gone is an error of the
+ * display, which ends the process; 0 is one, too, but for `isWindowHandle`,
+ * `enableWindow` and `getWindowRect`. A window function opens the display that
+ * `DISPLAY` names and closes it again.
  *
  * @packageDocumentation
  */
@@ -128,8 +130,8 @@ export function setWindowFocus(...ignored: unknown[]): undefined;
  * Shows, hides or maximises a window.
  *
  * @param window the window
- * @param command 0 hides, 5 shows, 3 asks the window manager to maximise;
- *   others do nothing
+ * @param command 0 hides, 5 shows, 3 sends a message to maximise, which most
+ *   window managers do not get; others do nothing
  * @returns `false`, whatever came of it
  * @fallback `false`, and nothing is done: exactly two numbers are needed
  */
@@ -533,8 +535,8 @@ export function extractIcon(...ignored: unknown[]): undefined;
 
 /**
  * Collates the second text against the first by the locale of the environment.
- * Only the first character of each takes part; of one from U+0100 on its two
- * bytes do, low byte first, and what follows up to the first zero byte.
+ * Of a text that begins below U+0100 only the first character takes part; of
+ * others the bytes of the 16-bit units do, low byte first, up to the first zero.
  *
  * @param a the first text
  * @param b the second text
