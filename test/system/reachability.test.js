@@ -7,7 +7,7 @@
 const fs = require('fs');
 const path = require('path');
 const { execFileSync } = require('child_process');
-const { check, temporaryFolder, test } = require('../script/harness');
+const { assert, check, temporaryFolder, test } = require('../script/harness');
 
 const longest = 'a'.repeat(8181);
 const shorter = 'b'.repeat(8180);
@@ -49,6 +49,19 @@ execFileSync('dnsmasq', ['--conf-file=/dev/null', '--user=root', '--no-resolv',
 test('a name server answers', () => {
   checkAll([['dns.test', 1], ['http://dns.test/x', 1], ['DNS.TEST', 1],
     ['other.test', 0]]);
+});
+
+test('a name server that does not answer is waited for', () => {
+  const server = Number(fs.readFileSync(`${folder}/pid`, 'utf8'));
+  const call = 'require(process.env.KORVANE_MODULE).isPingHostValid("dns.test")';
+  const env = Object.assign({}, process.env,
+    { RES_OPTIONS: 'timeout:1 attempts:1' });
+  process.kill(server, 'SIGSTOP');
+  const begin = Date.now();
+  execFileSync(process.execPath, ['-e', call], { env });
+  const waited = Date.now() - begin;
+  process.kill(server, 'SIGCONT');
+  assert(waited >= 1000 && waited < 5000, `${waited} ms`);
 });
 
 test('one scheme at the start is stripped, case-sensitively', () => {
