@@ -2,8 +2,8 @@
 
 #include <iconv.h>
 
-#include <algorithm>
-#include <utility>
+#include <array>
+#include <string_view>
 
 namespace qk::text {
 namespace {
@@ -20,18 +20,24 @@ class Converter {
   Converter(const Converter&) = delete;
   Converter& operator=(const Converter&) = delete;
 
-  // Converts in one call; true when it took the whole input.
-  bool run(const char* input, std::size_t input_size, char* output,
-           std::size_t output_size, Ending ending) const {
-    if (!is_open()) return false;
+  struct Result {
+    bool is_whole;     // whether it took the whole input
+    std::size_t size;  // how many bytes it wrote
+  };
+
+  // Converts in one call.
+  Result run(const char* input, std::size_t input_size, char* output,
+             std::size_t output_size, Ending ending) const {
+    if (!is_open()) return {false, 0};
     // iconv does not write to its input; its parameter type predates const.
     char* source = const_cast<char*>(input);
-    const bool whole = iconv(descriptor_, &source, &input_size, &output,
-                             &output_size) != kFailed;
+    std::size_t left = output_size;
+    const bool is_whole =
+        iconv(descriptor_, &source, &input_size, &output, &left) != kFailed;
     if (ending == Ending::kFlushed) {
-      iconv(descriptor_, nullptr, nullptr, &output, &output_size);
+      iconv(descriptor_, nullptr, nullptr, &output, &left);
     }
-    return whole;
+    return {is_whole, output_size - left};
   }
 
  private:
@@ -49,14 +55,18 @@ template <typename In, typename Out>
 bool convert(const char* to, const char* from, const In* input,
              std::size_t length, std::size_t room,
              std::basic_string<Out>& output, Ending ending) {
-  std::basic_string<Out> buffer(room, Out());
-  const bool whole = Converter(to, from).run(
+  // Short texts need no memory but the output's own. The input may lie in that.
+  constexpr std::size_t kShort = 2048;
+  std::array<Out, kShort> few;
+  std::basic_string<Out> many(room > kShort ? room : 0, Out());
+  Out* const buffer = room > kShort ? many.data() : few.data();
+  const auto [is_whole, size] = Converter(to, from).run(
       reinterpret_cast<const char*>(input), length * sizeof(In),
-      reinterpret_cast<char*>(buffer.data()), room * sizeof(Out), ending);
-  // A result that fills its room has no terminator: the room bounds it.
-  buffer.resize(std::min(buffer.find(Out()), room));
-  output = std::move(buffer);
-  return whole;
+      reinterpret_cast<char*>(buffer), room * sizeof(Out), ending);
+  // The result is a text up to its first zero.
+  const std::basic_string_view<Out> text(buffer, size / sizeof(Out));
+  output.assign(text.substr(0, text.find(Out())));
+  return is_whole;
 }
 
 template bool convert(const char*, const char*, const char*, std::size_t,
