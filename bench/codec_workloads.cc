@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include <korvane/encoders.h>
+#include <korvane/korvane_links.h>
 #include "peers/peers.h"
-#include "url/encoders.h"
-#include "url/korvane_links.h"
 #include "workloads.h"
 
 namespace bench {

@@ -1,6 +1,6 @@
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
+#include <korvane/transcode.h>
 #include "peers/peers.h"
-#include "text/transcode.h"
 #include "text/utf8.h"
 #include "workloads.h"
 

@@ -3,12 +3,12 @@
 #include <array>
 #include <functional>
 
+#include <korvane/bt_magnet_url_parser.h>
+#include <korvane/ed2k_file_link.h>
+#include <korvane/encoders.h>
+#include <korvane/korvane_links.h>
+#include <korvane/url_object.h>
 #include "readers.h"
-#include "url/bt_magnet_url_parser.h"
-#include "url/ed2k_file_link.h"
-#include "url/encoders.h"
-#include "url/korvane_links.h"
-#include "url/url_object.h"
 #include "workloads.h"
 
 namespace bench {

@@ -1,9 +1,9 @@
 #include <openssl/crypto.h>
 
+#include <korvane/bt_magnet_url_parser.h>
+#include <korvane/korvane_links.h>
 #include "peers/peers.h"
 #include "readers.h"
-#include "url/bt_magnet_url_parser.h"
-#include "url/korvane_links.h"
 #include "workloads.h"
 
 namespace bench {

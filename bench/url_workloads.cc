@@ -1,6 +1,6 @@
+#include <korvane/korvane_links.h>
 #include "peers/peers.h"
 #include "readers.h"
-#include "url/korvane_links.h"
 #include "workloads.h"
 
 namespace bench {

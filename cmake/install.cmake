@@ -20,9 +20,8 @@ install(FILES ${PROJECT_BINARY_DIR}/korvane_linksConfigVersion.cmake
   DESTINATION ${PACKAGE_FOLDER} COMPONENT links)
 install(FILES ${PROJECT_BINARY_DIR}/korvane_links.pc
   DESTINATION ${PKG_CONFIG_FOLDER} COMPONENT links)
-install(DIRECTORY src/text src/host src/url
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/korvane COMPONENT links
-  FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY include/korvane
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT links)
 
 # The module for scripts, laid out as in the npm package; the loader finds it.
 if(KORVANE_MODULE)

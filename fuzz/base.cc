@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <memory>
 
+#include <korvane/encoders.h>
+#include <korvane/korvane_host.h>
+#include <korvane/korvane_links.h>
+#include <korvane/korvane_url.h>
 #include "fuzz.h"
-#include "host/korvane_host.h"
 #include "unit/exact_copy.h"
-#include "url/encoders.h"
-#include "url/korvane_links.h"
-#include "url/korvane_url.h"
 
 namespace {
 

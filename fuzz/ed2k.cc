@@ -4,11 +4,11 @@
 #include <cwchar>
 #include <memory>
 
+#include <korvane/ed2k_file_link.h>
+#include <korvane/korvane_links.h>
+#include <korvane/string_utility.h>
 #include "fuzz.h"
-#include "text/string_utility.h"
 #include "unit/exact_copy.h"
-#include "url/ed2k_file_link.h"
-#include "url/korvane_links.h"
 
 namespace {
 

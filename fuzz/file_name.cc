@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <memory>
 
+#include <korvane/korvane_host.h>
+#include <korvane/korvane_links.h>
+#include <korvane/url_object.h>
 #include "fuzz.h"
-#include "host/korvane_host.h"
 #include "unit/exact_copy.h"
-#include "url/korvane_links.h"
 #include "url/url_file_name.h"
-#include "url/url_object.h"
 
 namespace {
 

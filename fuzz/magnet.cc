@@ -1,13 +1,13 @@
 // Magnet links, against a slow reader.
 #include <cstring>
 
+#include <korvane/bt_magnet_url_parser.h>
+#include <korvane/encoders.h>
+#include <korvane/korvane_host.h>
+#include <korvane/korvane_links.h>
+#include <korvane/url_object.h>
 #include "fuzz.h"
-#include "host/korvane_host.h"
 #include "unit/exact_copy.h"
-#include "url/bt_magnet_url_parser.h"
-#include "url/encoders.h"
-#include "url/korvane_links.h"
-#include "url/url_object.h"
 
 namespace {
 

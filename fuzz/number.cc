@@ -6,9 +6,9 @@
 #include <cwctype>
 #include <limits>
 
+#include <korvane/format_utility.h>
+#include <korvane/string_utility.h>
 #include "fuzz.h"
-#include "text/format_utility.h"
-#include "text/string_utility.h"
 
 namespace {
 

@@ -2,12 +2,12 @@
 #include <algorithm>
 #include <cctype>
 
+#include <korvane/ed2k_file_link.h>
+#include <korvane/encoders.h>
+#include <korvane/korvane_host.h>
+#include <korvane/url_object.h>
+#include <korvane/xstringutil.h>
 #include "fuzz.h"
-#include "host/korvane_host.h"
-#include "text/xstringutil.h"
-#include "url/ed2k_file_link.h"
-#include "url/encoders.h"
-#include "url/url_object.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // The transcoders and the host's conversions, against the C library's iconv
 // fed one character at a time and against a UTF-8 coder of our own.
-#include "text/transcode.h"
+#include <korvane/transcode.h>
 
 #include <iconv.h>
 
@@ -8,8 +8,8 @@
 #include <map>
 #include <memory>
 
+#include <korvane/korvane_host.h>
 #include "fuzz.h"
-#include "host/korvane_host.h"
 #include "text/utf8.h"
 #include "unit/exact_copy.h"
 

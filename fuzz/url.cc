@@ -1,15 +1,15 @@
 // A URL taken apart: by the class, by the C function and by a slow reader; and
 // printed and taken apart again.
-#include "url/url_object.h"
+#include <korvane/url_object.h>
 
 #include <algorithm>
 #include <cstring>
 #include <memory>
 
+#include <korvane/format_utility.h>
+#include <korvane/korvane_links.h>
 #include "fuzz.h"
-#include "text/format_utility.h"
 #include "unit/exact_copy.h"
-#include "url/korvane_links.h"
 
 namespace {
 

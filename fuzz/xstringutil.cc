@@ -1,5 +1,5 @@
 // The small string functions, against their rules told another way.
-#include "text/xstringutil.h"
+#include <korvane/xstringutil.h>
 
 #include <algorithm>
 #include <limits>

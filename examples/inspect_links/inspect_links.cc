@@ -11,8 +11,8 @@
 #include <string>
 #include <string_view>
 
-#include "runtime_port.h"
-#include "url/korvane_links.h"
+#include <korvane/korvane_links.h>
+#include "script/runtime_port.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
 
 namespace {
 

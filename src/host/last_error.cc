@@ -1,4 +1,4 @@
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
 
 namespace {
 

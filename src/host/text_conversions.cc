@@ -1,7 +1,7 @@
 #include <string_view>
 #include <type_traits>
 
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
 #include "text/iconv_conversion.h"
 #include "text/utf8.h"
 

@@ -1,4 +1,4 @@
-#include "text/format_utility.h"
+#include <korvane/format_utility.h>
 
 #include <array>
 #include <charconv>
@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <cwchar>
 
-#include "text/string_utility.h"
+#include <korvane/string_utility.h>
 
 namespace qk::text {
 namespace {

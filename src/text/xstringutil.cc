@@ -1,4 +1,4 @@
-#include "text/xstringutil.h"
+#include <korvane/xstringutil.h>
 
 #include <array>
 #include <cstddef>

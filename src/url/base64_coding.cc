@@ -6,8 +6,8 @@
 #include <limits>
 #include <string_view>
 
+#include <korvane/korvane_links.h>
 #include "text/digit_tables.h"
-#include "url/korvane_links.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // One reader for the class, which keeps every field, and for the C function,
 // which drops all but the info hash undecoded.
-#include "url/bt_magnet_url_parser.h"
+#include <korvane/bt_magnet_url_parser.h>
 
 #include <algorithm>
 #include <array>
@@ -8,9 +8,9 @@
 #include <string_view>
 #include <utility>
 
+#include <korvane/korvane_links.h>
 #include "url/base_decoding.h"
 #include "url/entry_point.h"
-#include "url/korvane_links.h"
 #include "url/narrow_text.h"
 #include "url/percent_coding.h"
 #include "url/text_decoding.h"

@@ -62,6 +62,17 @@ constexpr bool is_one_of(Unit unit, CharacterClasses character_classes) {
   return (classes_of(unit) & character_classes) != 0;
 }
 
+template <typename Unit>
+constexpr bool is_letter(Unit unit) {
+  return (unit >= Unit('A') && unit <= Unit('Z')) ||
+         (unit >= Unit('a') && unit <= Unit('z'));
+}
+
+template <typename Unit>
+constexpr bool is_decimal(Unit unit) {
+  return unit >= Unit('0') && unit <= Unit('9');
+}
+
 // The classes that the units of `text` belong to, all together.
 constexpr CharacterClasses classes_in(std::wstring_view text) {
   unsigned classes = 0;

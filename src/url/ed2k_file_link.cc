@@ -1,12 +1,12 @@
-#include "url/ed2k_file_link.h"
+#include <korvane/ed2k_file_link.h>
 
 #include <cstddef>
 #include <string_view>
 #include <utility>
 
-#include "host/korvane_host.h"
+#include <korvane/encoders.h>
+#include <korvane/korvane_host.h>
 #include "text/hex_digits.h"
-#include "url/encoders.h"
 
 namespace {
 

@@ -11,14 +11,14 @@
 #include <string_view>
 #include <utility>
 
-#include "text/string_utility.h"
-#include "text/transcode.h"
+#include <korvane/ed2k_file_link.h>
+#include <korvane/korvane_links.h>
+#include <korvane/string_utility.h>
+#include <korvane/transcode.h>
 #include "text/utf8.h"
 #include "url/base_decoding.h"
 #include "url/character_classes.h"
-#include "url/ed2k_file_link.h"
 #include "url/entry_point.h"
-#include "url/korvane_links.h"
 #include "url/narrow_text.h"
 #include "url/percent_coding.h"
 #include "url/text_decoding.h"

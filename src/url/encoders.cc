@@ -1,4 +1,4 @@
-#include "url/encoders.h"
+#include <korvane/encoders.h>
 
 #include <cctype>
 #include <cstddef>

@@ -1,7 +1,7 @@
-#include "url/korvane_url.h"
+#include <korvane/korvane_url.h>
 
-#include "host/korvane_host.h"
-#include "text/transcode.h"
+#include <korvane/korvane_host.h>
+#include <korvane/transcode.h>
 
 namespace {
 

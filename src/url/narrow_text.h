@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
 #include "url/text_decoding.h"
 
 namespace qk::url {

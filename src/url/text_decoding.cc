@@ -1,8 +1,8 @@
 #include "url/text_decoding.h"
 
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
+#include <korvane/url_object.h>
 #include "url/percent_coding.h"
-#include "url/url_object.h"
 
 namespace qk::url {
 namespace {

@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
+#include <korvane/korvane_links.h>
 #include "url/entry_point.h"
-#include "url/korvane_links.h"
 #include "url/text_decoding.h"
 #include "url/url_file_name.h"
 #include "url/url_parts.h"

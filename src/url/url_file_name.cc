@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cctype>
 
+#include <korvane/url_object.h>
 #include "text/code_of.h"
 #include "url/character_classes.h"
-#include "url/url_object.h"
 
 namespace qk::url {
 namespace {
@@ -87,8 +87,7 @@ bool ends_word(std::wstring_view text, std::size_t position) {
 }
 
 bool is_word_unit(wchar_t unit) {
-  return url_object::is_alpha(unit) || url_object::is_digit(unit) ||
-         unit == L'$' || unit == L'-';
+  return is_letter(unit) || is_decimal(unit) || unit == L'$' || unit == L'-';
 }
 
 std::size_t find_extension(std::wstring_view text,

@@ -1,4 +1,4 @@
-#include "url/url_object.h"
+#include <korvane/url_object.h>
 
 #include <array>
 #include <utility>

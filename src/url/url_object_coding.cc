@@ -1,9 +1,10 @@
 // url_object's percent-coding, over the coders of percent_coding.h.
 #include <algorithm>
 
+#include <korvane/url_object.h>
+#include "url/character_classes.h"
 #include "url/percent_coding.h"
 #include "url/text_decoding.h"
-#include "url/url_object.h"
 
 namespace {
 
@@ -76,4 +77,24 @@ void url_object::trim_pre_space(std::string& text) {
 
 void url_object::trim_pre_space(std::wstring& text) {
   erase_leading_blanks(text);
+}
+
+bool url_object::is_alpha(char unit) { return qk::url::is_letter(unit); }
+bool url_object::is_alpha(wchar_t unit) { return qk::url::is_letter(unit); }
+
+bool url_object::is_digit(char unit) { return qk::url::is_decimal(unit); }
+bool url_object::is_digit(wchar_t unit) { return qk::url::is_decimal(unit); }
+
+bool url_object::need_escape(char unit) {
+  return qk::url::is_one_of(unit, qk::url::kNeedEscape);
+}
+bool url_object::need_escape(wchar_t unit) {
+  return qk::url::is_one_of(unit, qk::url::kNeedEscape);
+}
+
+bool url_object::is_reserved(char unit) {
+  return qk::url::is_one_of(unit, qk::url::kReserved);
+}
+bool url_object::is_reserved(wchar_t unit) {
+  return qk::url::is_one_of(unit, qk::url::kReserved);
 }

@@ -6,8 +6,8 @@
 #include <iterator>
 #include <optional>
 
+#include <korvane/format_utility.h>
 #include "text/code_of.h"
-#include "text/format_utility.h"
 #include "url/percent_coding.h"
 
 namespace qk::url {

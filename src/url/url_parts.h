@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "url/url_object.h"
+#include <korvane/url_object.h>
 
 namespace qk::url {
 

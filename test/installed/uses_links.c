@@ -2,7 +2,7 @@
 #include <stdio.h>
 #include <wchar.h>
 
-#include "url/korvane_links.h"
+#include <korvane/korvane_links.h>
 
 int main(void) {
   const wchar_t* url = L"http://h/dir/My%20File.zip?x=1";

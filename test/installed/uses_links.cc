@@ -1,8 +1,8 @@
 // A native program that uses the installed link library by its classes.
 #include <cstdio>
 
-#include "url/ed2k_file_link.h"
-#include "url/url_object.h"
+#include <korvane/ed2k_file_link.h>
+#include <korvane/url_object.h>
 
 int main() {
   url_object url;

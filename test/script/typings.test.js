@@ -58,7 +58,7 @@ test('every comment says something, of every parameter too', () => {
 test('a function with an empty body is said to do nothing, and no other',
   () => {
     const source = (name) => fs.readFileSync(
-      path.join(__dirname, '../../src', name), 'utf8');
+      path.join(__dirname, '../../src/script', name), 'utf8');
     const empty = source('korvane_helper.h')
       .match(/\w+(?=\(const Arguments&\) \{\})/g);
     const rows = source('korvane_helper.cc').match(/\{"\w+", \w+\}/g)

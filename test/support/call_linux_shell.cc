@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <string_view>
 
-#include "linux_shell.h"
+#include "platform/linux_shell.h"
 
 int main(int argc, char** argv) {
   const std::string_view what = argc == 2 ? argv[1] : "";

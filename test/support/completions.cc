@@ -3,7 +3,7 @@
 // last argument of each becomes its holder. And tells what memory is in use.
 #include <malloc.h>
 
-#include "korvane_helper.h"
+#include "script/korvane_helper.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // A host's own text library: its base64 says who encoded.
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
 
 void qk::crypto::base64::encode(const std::string& in, std::string& out) {
   out = "by the other host: " + in;

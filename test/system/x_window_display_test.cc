@@ -1,6 +1,6 @@
 // XWindow on a real server, bare and under a window manager. A client of the
 // tests' own makes the windows and reads what became of them.
-#include "x_window.h"
+#include "platform/x_window.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // XWindow on a display that fails where it is told to; run by fake_display.js.
-#include "x_window.h"
+#include "platform/x_window.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>

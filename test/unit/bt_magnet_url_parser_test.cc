@@ -1,11 +1,11 @@
-#include "url/bt_magnet_url_parser.h"
+#include <korvane/bt_magnet_url_parser.h>
 
 #include <gtest/gtest.h>
 
 #include <string>
 
+#include <korvane/encoders.h>
 #include "rows.h"
-#include "url/encoders.h"
 
 namespace {
 

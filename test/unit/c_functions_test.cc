@@ -9,10 +9,10 @@
 #include <string_view>
 #include <utility>
 
+#include <korvane/korvane_links.h>
 #include "exact_copy.h"
 #include "failing_calls.h"
 #include "rows.h"
-#include "url/korvane_links.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "url/ed2k_file_link.h"
+#include <korvane/ed2k_file_link.h>
 
 #include <gtest/gtest.h>
 
@@ -8,9 +8,9 @@
 #include <tuple>
 #include <vector>
 
-#include "host/korvane_host.h"
+#include <korvane/encoders.h>
+#include <korvane/korvane_host.h>
 #include "rows.h"
-#include "url/encoders.h"
 
 namespace {
 

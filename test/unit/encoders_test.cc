@@ -1,4 +1,4 @@
-#include "url/encoders.h"
+#include <korvane/encoders.h>
 
 #include <gtest/gtest.h>
 #include <openssl/crypto.h>
@@ -12,10 +12,10 @@
 #include <string_view>
 #include <tuple>
 
+#include <korvane/korvane_links.h>
 #include "exact_copy.h"
 #include "failing_calls.h"
 #include "rows.h"
-#include "url/korvane_links.h"
 
 namespace {
 

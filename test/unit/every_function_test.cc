@@ -9,18 +9,18 @@
 #include <filesystem>
 #include <thread>
 
-#include "host/korvane_host.h"
-#include "text/format_utility.h"
-#include "text/string_utility.h"
-#include "text/transcode.h"
+#include <korvane/bt_magnet_url_parser.h>
+#include <korvane/ed2k_file_link.h>
+#include <korvane/encoders.h>
+#include <korvane/format_utility.h>
+#include <korvane/korvane_host.h>
+#include <korvane/korvane_links.h>
+#include <korvane/korvane_url.h>
+#include <korvane/string_utility.h>
+#include <korvane/transcode.h>
+#include <korvane/url_object.h>
+#include <korvane/xstringutil.h>
 #include "text/utf8.h"
-#include "text/xstringutil.h"
-#include "url/bt_magnet_url_parser.h"
-#include "url/ed2k_file_link.h"
-#include "url/encoders.h"
-#include "url/korvane_links.h"
-#include "url/korvane_url.h"
-#include "url/url_object.h"
 
 #ifdef __SANITIZE_THREAD__
 // The converters' modules are loaded under locks that the sanitizer does not

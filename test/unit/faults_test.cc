@@ -10,17 +10,17 @@
 #include <string>
 #include <string_view>
 
+#include <korvane/bt_magnet_url_parser.h>
+#include <korvane/ed2k_file_link.h>
+#include <korvane/encoders.h>
+#include <korvane/format_utility.h>
+#include <korvane/korvane_host.h>
+#include <korvane/korvane_links.h>
+#include <korvane/korvane_url.h>
+#include <korvane/transcode.h>
+#include <korvane/url_object.h>
+#include <korvane/xstringutil.h>
 #include "failing_calls.h"
-#include "host/korvane_host.h"
-#include "text/format_utility.h"
-#include "text/transcode.h"
-#include "text/xstringutil.h"
-#include "url/bt_magnet_url_parser.h"
-#include "url/ed2k_file_link.h"
-#include "url/encoders.h"
-#include "url/korvane_links.h"
-#include "url/korvane_url.h"
-#include "url/url_object.h"
 
 namespace {
 

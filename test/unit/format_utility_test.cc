@@ -1,4 +1,4 @@
-#include "text/format_utility.h"
+#include <korvane/format_utility.h>
 
 #include <gtest/gtest.h>
 

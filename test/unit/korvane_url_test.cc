@@ -1,10 +1,10 @@
-#include "url/korvane_url.h"
+#include <korvane/korvane_url.h>
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
 #include "rows.h"
 
 namespace {

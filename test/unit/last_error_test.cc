@@ -2,7 +2,7 @@
 
 #include <thread>
 
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
 
 TEST(LastError, EachThreadHasItsOwn) {
   qk::set_last_error(20100001);

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <tuple>
 
+#include <korvane/url_object.h>
 #include "rows.h"
-#include "url/url_object.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "text/string_utility.h"
+#include <korvane/string_utility.h>
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/korvane_host.h"
+#include <korvane/korvane_host.h>
 #include "rows.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "text/transcode.h"
+#include <korvane/transcode.h>
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include <korvane/url_object.h>
 #include "rows.h"
-#include "url/url_object.h"
 
 namespace {
 
