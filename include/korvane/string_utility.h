@@ -42,9 +42,6 @@ const wchar_t* string_utility_t<wchar_t>::find_nocase(const wchar_t* text,
 // if one is empty. Units of 256 and above have no other case.
 std::size_t find_nocase(std::wstring_view text, std::wstring_view pattern);
 
-// Whether `text` begins with `prefix`; units of 256 and above as above.
-bool begins_with_nocase(std::wstring_view text, std::wstring_view prefix);
-
 }  // namespace qk::text
 
 #endif  // KORVANE_STRING_UTILITY_H_

@@ -67,9 +67,4 @@ std::size_t find_nocase(std::wstring_view text, std::wstring_view pattern) {
   return std::wstring_view::npos;
 }
 
-bool begins_with_nocase(std::wstring_view text, std::wstring_view prefix) {
-  return text.size() >= prefix.size() &&
-         std::equal(prefix.begin(), prefix.end(), text.begin(), equal_nocase);
-}
-
 }  // namespace qk::text

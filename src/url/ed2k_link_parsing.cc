@@ -13,8 +13,8 @@
 
 #include <korvane/ed2k_file_link.h>
 #include <korvane/korvane_links.h>
-#include <korvane/string_utility.h>
 #include <korvane/transcode.h>
+#include "text/ascii.h"
 #include "text/utf8.h"
 #include "url/base_decoding.h"
 #include "url/character_classes.h"
@@ -32,6 +32,8 @@ static_assert(offsetof(ed2k_url_info_u, hash) == 4104);
 namespace {
 
 using namespace qk::url;
+using qk::text::begins_with_ascii_nocase;
+using qk::text::contains_ascii_nocase;
 
 constexpr std::wstring_view kScheme = L"ed2k://";
 constexpr std::wstring_view kFile = L"file";
@@ -115,19 +117,14 @@ void read_size(std::wstring_view text, unsigned long& size) {
   if (read_low_bits(text, low_bits)) size = size >> 32 << 32 | low_bits;
 }
 
-// Every unit must be a digit, those behind the hash as well.
+// What is behind the digits does not count.
 template <typename Unit>
 bool decode_file_hash(std::basic_string_view<Unit> digits,
                       ed2k_file_link::file_hash& hash) {
-  if (digits.size() < kFileHashDigits) return false;
   auto& octets = hash.octets;
-  const std::size_t written = decode_base16_pairs(kBase16Values, digits.data(),
-                                                  octets.size(), octets.data());
-  return written == octets.size() &&
-         std::all_of(digits.begin() + kFileHashDigits, digits.end(),
-                     [](Unit unit) {
-                       return is_digit_value(value_of(kBase16Values, unit));
-                     });
+  return digits.size() >= kFileHashDigits &&
+         decode_base16_pairs(kBase16Values, digits.data(), octets.size(),
+                             octets.data()) == octets.size();
 }
 
 template <typename Link>
@@ -212,7 +209,7 @@ Keys keys_in(std::wstring_view field) {
 
 bool has_sources(std::wstring_view field) {
   return field.find(L',') != std::wstring_view::npos &&
-         qk::text::find_nocase(field, L"sources,") != std::wstring_view::npos;
+         contains_ascii_nocase(field, L"sources,");
 }
 
 // Kept: callers rely on a key counting anywhere in the field, so that a web
@@ -279,8 +276,8 @@ bool read_link(std::wstring_view url, Link& link) {
     if (!pieces.next(piece)) return false;
   }
   const auto& [scheme, kind, name, size, hash] = fixed;
-  if (!qk::text::begins_with_nocase(scheme, kScheme)) return false;
-  if (!qk::text::begins_with_nocase(kind, kFile)) return false;
+  if (!begins_with_ascii_nocase(scheme, kScheme)) return false;
+  if (!begins_with_ascii_nocase(kind, kFile)) return false;
   link.put_name(name);
   read_size(size, link.size());
   if (link.size() == 0 || link.size() > kLargestFile) return false;

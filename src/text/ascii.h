@@ -1,0 +1,32 @@
+// Searches in text of formats that are ASCII, whatever the locale.
+#ifndef KORVANE_TEXT_ASCII_H_
+#define KORVANE_TEXT_ASCII_H_
+
+#include <algorithm>
+#include <string_view>
+
+namespace qk::text {
+
+// The lower-case form of the letters "A" to "Z"; any other unit unchanged.
+constexpr wchar_t to_lower_ascii(wchar_t unit) {
+  return unit >= L'A' && unit <= L'Z' ? unit + (L'a' - L'A') : unit;
+}
+
+// Whether `text` contains `word`, which is in lower case, in any case.
+inline bool contains_ascii_nocase(std::wstring_view text,
+                                  std::wstring_view word) {
+  return std::search(text.begin(), text.end(), word.begin(), word.end(),
+                     [](wchar_t unit, wchar_t lower) {
+                       return to_lower_ascii(unit) == lower;
+                     }) != text.end();
+}
+
+// Whether `text` begins with `prefix`, which is in lower case, in any case.
+inline bool begins_with_ascii_nocase(std::wstring_view text,
+                                     std::wstring_view prefix) {
+  return contains_ascii_nocase(text.substr(0, prefix.size()), prefix);
+}
+
+}  // namespace qk::text
+
+#endif  // KORVANE_TEXT_ASCII_H_
