@@ -4,8 +4,9 @@
 // is a build of them for every other place. Text conversions share three rules:
 //
 // 1. The default narrow encoding is UTF-8, whatever the locale.
-// 2. A conversion ends at the first zero unit and at the first unit that
-//    cannot be converted; what stands before it is the result.
+// 2. A conversion ends at the first zero unit; the conversions to narrow text
+//    also at the first unit that is no character. The result is what precedes
+//    it.
 // 3. Nothing is reported; only running out of memory throws.
 #ifndef KORVANE_KORVANE_HOST_H_
 #define KORVANE_KORVANE_HOST_H_
@@ -22,12 +23,15 @@ std::string wstring_2_utf8(const std::wstring& text);
 // string_to_wstring_with_code_page(text, 0).
 std::wstring string_2_wstring(const std::string& text);
 
-// Bytes in `code_page` as wide text. Code pages are numbered as desktop
-// systems number them (65001 UTF-8, 936 GBK, 1252 Western, ...).
+// Bytes in `code_page` as wide text, up to the first zero byte. Code pages are
+// numbered as desktop systems number them (65001 UTF-8, 936 GBK, 1252 Western,
+// ...). The rest of the text is never lost:
 //
-// 0, -1 and an unknown number mean the default encoding, read leniently so
-// that no file loses its name: bytes that are valid UTF-8 are UTF-8, otherwise
-// GBK if all of them are valid GBK, otherwise Western (1252).
+// - 0, -1, an unknown number, and a code page in which some of the bytes are
+//   invalid mean the default reading: UTF-8 if all bytes are valid UTF-8,
+//   otherwise GBK if all are valid GBK, otherwise Western.
+// - In that last case the five bytes that Western leaves undefined (81, 8D, 8F,
+//   90, 9D) become the characters of the same numbers.
 std::wstring string_to_wstring_with_code_page(const std::string& text,
                                               int code_page);
 

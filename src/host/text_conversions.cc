@@ -16,8 +16,6 @@ struct CodePage {
   const char* name;  // as iconv knows it
 };
 
-constexpr int kUtf8 = 65001;
-
 constexpr CodePage kCodePages[] = {
     {866, "CP866"},         {874, "CP874"},         {932, "CP932"},
     {936, "GBK"},           {949, "CP949"},         {950, "CP950"},
@@ -61,24 +59,33 @@ bool is_plain(std::basic_string_view<Unit> text) {
   return seen < 0x80 && zeros == 0;
 }
 
-std::wstring decode_default(std::string_view bytes) {
+// Bytes 80 to 9F of Western; the five that it leaves undefined are themselves.
+constexpr wchar_t kWestern[] = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+// Needs no converter and reads every byte.
+std::wstring decode_western(std::string_view bytes) {
   std::wstring wide;
-  if (decode_utf8(bytes, wide)) return wide;
-  if (convert_bytes("GBK", bytes, wide)) return wide;
-  convert_bytes("MS-ANSI", bytes, wide);
+  wide.reserve(bytes.size());
+  for (const char unit : bytes) {
+    const auto byte = static_cast<unsigned char>(unit);
+    wide += byte >= 0x80 && byte < 0xA0 ? kWestern[byte - 0x80]
+                                        : static_cast<wchar_t>(byte);
+  }
   return wide;
 }
 
+// The default reading begins with UTF-8, which needs no name here.
 std::wstring decode(std::string_view bytes, int code_page) {
   std::wstring wide;
-  if (code_page == kUtf8) {
-    decode_utf8(bytes, wide);
-  } else if (const char* name = iconv_name(code_page)) {
-    convert_bytes(name, bytes, wide);
-  } else {
-    return decode_default(bytes);
-  }
-  return wide;
+  const char* const name = iconv_name(code_page);
+  if (name != nullptr && convert_bytes(name, bytes, wide)) return wide;
+  if (decode_utf8(bytes, wide)) return wide;
+  if (convert_bytes("GBK", bytes, wide)) return wide;
+  return decode_western(bytes);
 }
 
 std::string to_utf8(std::wstring_view wide) {

@@ -30,6 +30,7 @@ using qk::text::transcode;
 const std::string kDigits(80, '5');
 const std::wstring kWide(40, L'w');
 const std::string kGbk = kDigits + "\xD6\xD0";
+const std::string kRead = kDigits + "\x2D";  // U+4E2D
 // As much as fits in a field.
 const std::wstring kEscaped = std::wstring(255, L'n') + L"%D6%D0";
 const std::wstring kUrl = L"ftp://" + kEscaped + L"@h/" + kEscaped;
@@ -189,7 +190,7 @@ const Row kRows[] = {
     {"wide to ANSI", with(transcode::Unicode_to_ANSI, kWide), ""},
     {"ANSI to wide", with(transcode::ANSI_to_Unicode, kDigits), ""},
     {"GBK", [] { return all(string_to_wstring_with_code_page(kGbk, 936)); },
-     ""},
+     kRead.c_str()},
     // What is neither UTF-8 nor, without a converter, GBK is Western.
     {"default", [] { return all(string_2_wstring(kGbk)); }, kGbk.c_str()},
     {"wide private link",
@@ -203,9 +204,8 @@ const Row kRows[] = {
     {"url_object", url},
     {"ed2k_file_link", ed2k_link},
     {"bt_magnet_url_parser", magnet_link},
-    {"parse_url_u", told(parse_url, outputs.url.user_len), "0, 0", "-4"},
-    // index.html
-    {"parse_filename_u", told(parse_filename, outputs.length), "0, 10", "-4"},
+    {"parse_url_u", told(parse_url, outputs.url.user_len), "0, 256", "-4"},
+    {"parse_filename_u", told(parse_filename, outputs.length), "0, 256", "-4"},
     {"is_support_schema", told(is_support, outputs.supported), "0, 0", "-4"},
     // "%": the name is not decoded.
     {"parse_ed2k_url_u", told(parse_ed2k, outputs.file.name[300]), "0, 37",
