@@ -20,11 +20,8 @@ ScriptGuard::ScriptGuard(v8::Isolate* isolate)
 }
 
 ScriptGuard::~ScriptGuard() {
-  if (!try_catch_.HasTerminated()) return;
-  // Rethrown it ends this call; asked for again, it ends what the call still
-  // runs before it returns.
-  isolate_->TerminateExecution();
-  try_catch_.ReThrow();
+  // Never rethrown: older runtimes would throw a null, which scripts catch.
+  if (try_catch_.HasTerminated()) isolate_->TerminateExecution();
 }
 
 v8::Local<v8::String> read_text(const Arguments& arguments, int index) {

@@ -100,17 +100,22 @@ test('setters on the prototypes of lists and objects do no harm', () => {
   }
 });
 
-test('a script that is being terminated stays terminated', () => {
+test('nothing of a script that is being terminated runs on', () => {
   const forever = { toString() { for (;;); }, valueOf() { for (;;); } };
+  const set = { set: forever.toString, configurable: true };
   const calls = ['isPingHostValid(forever)', 'setDefaultDPI(forever)',
     'asyncShellExecuteAndWait(forever, 1, 2, Object)',
     'asyncShellExecuteAndWait(1, forever, forever, Object)',
-    'attachClipBoard(forever.toString)'];
+    'attachClipBoard(forever.toString)',
+    'attachClipBoard(() => { helper.setDefaultDPI(forever); ran = true; })',
+    'getCursorPos(Object.defineProperty(Object.prototype, "x", set))'];
   for (const code of calls) {
-    const sandbox = { helper, forever, reached: false };
-    assert.throws(() => vm.runInNewContext(
-      `helper.${code}; for (;;) reached = true;`, sandbox, { timeout: 20 }),
+    const sandbox = { helper, forever, Object, set, ran: false };
+    assert.throws(() => vm.runInNewContext(`
+      try { helper.${code}; ran = true; } catch (e) { ran = true; }
+      finally { ran = true; } for (;;) ran = true;`, sandbox, { timeout: 20 }),
     /timed out/, code);
-    assert.strictEqual(sandbox.reached, false, code);
+    delete Object.prototype.x;
+    assert.strictEqual(sandbox.ran, false, code);
   }
 });
