@@ -1,6 +1,9 @@
 // Shell, processes and files. Only the first two functions do anything here;
 // the others test and read what the desktop product tests and reads, then
 // answer a constant. A test on which nothing depends is left out.
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -19,13 +22,46 @@ struct PipeCloser {
 };
 using Pipe = std::unique_ptr<std::FILE, PipeCloser>;
 
+// While it lives, a standard stream that is open is inherited by commands. The
+// runtime marks them close-on-exec, and a command without one writes its
+// messages into the first file that it opens.
+class InheritedStream {
+ public:
+  explicit InheritedStream(int descriptor)
+      : descriptor_(descriptor), flags_(fcntl(descriptor, F_GETFD)) {
+    set(flags_ & ~FD_CLOEXEC);
+  }
+  ~InheritedStream() { set(flags_); }
+  InheritedStream(const InheritedStream&) = delete;
+  InheritedStream& operator=(const InheritedStream&) = delete;
+
+ private:
+  void set(int flags) const {
+    if (flags_ >= 0) fcntl(descriptor_, F_SETFD, flags);
+  }
+
+  const int descriptor_;
+  const int flags_;  // negative when it is closed
+};
+
+struct InheritedStreams {
+  InheritedStream input{STDIN_FILENO};
+  InheritedStream output{STDOUT_FILENO};
+  InheritedStream error{STDERR_FILENO};
+};
+
+Pipe start(const char* command) {
+  const InheritedStreams streams;
+  return Pipe(popen(command, "r"));
+}
+
 }  // namespace
 
 void KorvaneHelper::System(const Arguments& arguments) {
   if (!accepts<Kind::kText>(arguments)) return;
   const Utf8Argument<kCommandCapacity> command(arguments, 0);
   answer_text(arguments, "");
-  const Pipe pipe(popen(command.c_str(), "r"));
+  const Pipe pipe = start(command.c_str());
   if (pipe == nullptr) return;
   // One read of a stream comes back short only at its end; the last byte is
   // never read into and so ends the text.
@@ -36,6 +72,7 @@ void KorvaneHelper::System(const Arguments& arguments) {
 }
 
 void KorvaneHelper::ExportGetLogicalDriveStrings(const Arguments&) {
+  const InheritedStreams streams;
   static_cast<void>(std::system("df -h > tmp.text"));
 }
 

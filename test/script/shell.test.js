@@ -69,6 +69,26 @@ test('System waits for all of a slow command\'s output and its end', () => {
   assert(fs.existsSync('ended'));
 });
 
+test('commands have the standard streams of the process, no closed one', () => {
+  const streams = '/proc/self/fd/0 /proc/self/fd/2';
+  const own = streams.split(' ').map((link) => `${fs.readlinkSync(link)}\n`);
+  const flags = () => [0, 1, 2].map((stream) => fs.readFileSync(
+    `/proc/self/fdinfo/${stream}`, 'utf8').match(/flags:.*/)[0]).join();
+  const before = flags();
+  check('System', [`readlink ${streams}`], own.join(''));
+  fs.writeFileSync('df', `#!/bin/sh\nreadlink ${streams}`, { mode: 0o755 });
+  const { PATH } = process.env;
+  process.env.PATH = `.:${PATH}`;
+  helper.getLogicalDriveStrings();
+  process.env.PATH = PATH;
+  assert.strictEqual(fs.readFileSync('tmp.text', 'utf8'), own.join(''));
+  assert.strictEqual(flags(), before);
+  fs.closeSync(0);
+  check('System', [`readlink ${streams}`], own[1]);
+  assert.throws(() => fs.fstatSync(0), /EBADF/);
+  fs.openSync('/dev/null', 'r');
+});
+
 test('System runs nothing without a text', () => {
   for (const args of [[], [1], [undefined], [new String('touch ran')],
     [{ toString: () => 'touch ran' }]]) {
