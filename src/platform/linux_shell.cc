@@ -25,7 +25,7 @@ constexpr char kSource[] = "src/linux_shell";
 
 class Socket {
  public:
-  Socket() : descriptor_(socket(AF_INET, SOCK_DGRAM, 0)) {}
+  Socket() : descriptor_(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {}
   ~Socket() {
     if (is_open()) close(descriptor_);
   }
@@ -116,10 +116,12 @@ std::string LinuxShell::MacId::GetIp() {
   std::array<char, 1024> datagram;
   sockaddr_in sender{};
   socklen_t sender_size = sizeof(sender);
-  if (recvfrom(socket.descriptor(), datagram.data(), datagram.size(), 0,
-               reinterpret_cast<sockaddr*>(&sender), &sender_size) < 0) {
-    return {};
-  }
+  ssize_t received = -1;
+  do {
+    received = recvfrom(socket.descriptor(), datagram.data(), datagram.size(),
+                        0, reinterpret_cast<sockaddr*>(&sender), &sender_size);
+  } while (received < 0 && errno == EINTR);
+  if (received < 0) return {};
   std::string dotted = inet_ntoa(sender.sin_addr);
   if (dotted.size() >= kScratchSize) {
     std::fputs("GetIp: the address is longer than 12 characters\n", stderr);

@@ -1,7 +1,6 @@
 // Preloaded before a program: the call that FAULT names fails once, "ioctl 2"
 // the second from then on, and FAULT is gone; "new" is what the module asks for
-// memory by. What is sent is told on standard error.
-#include <arpa/inet.h>
+// memory by.
 #include <dlfcn.h>
 #include <iconv.h>
 #include <sys/socket.h>
@@ -110,16 +109,6 @@ int ioctl(int descriptor, unsigned long request, ...) {
     return -1;
   }
   return static_cast<int>(syscall(SYS_ioctl, descriptor, request, record));
-}
-
-ssize_t sendto(int descriptor, const void* bytes, std::size_t size, int flags,
-               const sockaddr* address, socklen_t address_size) {
-  const auto* to = reinterpret_cast<const sockaddr_in*>(address);
-  std::fprintf(stderr, "%.*s to %s:%d\n", static_cast<int>(size),
-               static_cast<const char*>(bytes), inet_ntoa(to->sin_addr),
-               ntohs(to->sin_port));
-  return syscall(SYS_sendto, descriptor, bytes, size, flags, address,
-                 address_size);
 }
 
 }  // extern "C"
