@@ -1,12 +1,12 @@
 #include "platform/dpi_interface.h"
 
-#include <X11/Xlib.h>
+#include "platform/open_display.h"
 
 std::atomic<int> DPIInterface::s_default_dpi = 96;
 
 double DPIInterface::GetMonitorDPIFactor() {
   constexpr double kMillimetresPerInch = 25.4;
-  Display* display = XOpenDisplay(nullptr);
+  Display* display = open_display();
   if (display == nullptr) return 1.0;
   // Left open (kept: hosts count on it).
   const int screen = DefaultScreen(display);

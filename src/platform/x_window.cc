@@ -1,9 +1,9 @@
 #include "platform/x_window.h"
 
-#include <X11/Xlib.h>
-
 #include <array>
 #include <memory>
+
+#include "platform/open_display.h"
 
 namespace {
 
@@ -13,7 +13,7 @@ struct CloseDisplay {
 
 using Connection = std::unique_ptr<Display, CloseDisplay>;
 
-Connection open_display() { return Connection(XOpenDisplay(nullptr)); }
+Connection connect() { return Connection(open_display()); }
 
 int place(Display* display, Window window, int x, int y, int cx, int cy,
           std::uint32_t flags) {
@@ -69,7 +69,7 @@ void query_pointer(Display* display, int& x, int& y) {
 
 int XWindow::SetWindowPos(std::uint64_t window, std::uint64_t insert_after,
                           int x, int y, int cx, int cy, std::uint32_t flags) {
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display) return 0;
   const int status = place(display.get(), window, x, y, cx, cy, flags);
   if ((flags & kShow) != 0) {
@@ -87,7 +87,7 @@ int XWindow::SetWindowPos(std::uint64_t window, std::uint64_t insert_after,
 }
 
 bool XWindow::ShowWindow(std::uint64_t window, int command) {
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display) return false;
   bool done = false;
   if (command == kCommandHide) {
@@ -103,7 +103,7 @@ bool XWindow::ShowWindow(std::uint64_t window, int command) {
 }
 
 bool XWindow::IsWindow(std::uint64_t window) {
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display || window == 0) return false;
   int count = 0;
   Atom* properties = XListProperties(display.get(), window, &count);
@@ -113,7 +113,7 @@ bool XWindow::IsWindow(std::uint64_t window) {
 }
 
 bool XWindow::BringWindowToTop(std::uint64_t window) {
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display) return false;
   const int status = XRaiseWindow(display.get(), window);
   XFlush(display.get());
@@ -121,13 +121,13 @@ bool XWindow::BringWindowToTop(std::uint64_t window) {
 }
 
 bool XWindow::EnableWindow(std::uint64_t, bool) {
-  open_display();
+  connect();
   return false;
 }
 
 bool XWindow::GetWindowRect(std::uint64_t window, int& left, int& top,
                             int& right, int& bottom) {
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display || window == 0) return false;
   XWindowAttributes attributes{};
   if (XGetWindowAttributes(display.get(), window, &attributes) == 0) {
@@ -144,7 +144,7 @@ bool XWindow::GetWindowRect(std::uint64_t window, int& left, int& top,
 
 bool XWindow::MoveWindow(std::uint64_t window, int x, int y, int width,
                          int height) {
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display) return false;
   const int status = XMoveResizeWindow(display.get(), window, x, y,
                                        static_cast<unsigned>(width),
@@ -154,7 +154,7 @@ bool XWindow::MoveWindow(std::uint64_t window, int x, int y, int width,
 }
 
 bool XWindow::IsInFullScreen() {
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display) return false;
   Window focus = None;
   int revert_to = 0;
@@ -176,7 +176,7 @@ bool XWindow::IsInFullScreen() {
 }
 
 bool XWindow::GetDisplayWindowRect(int& width, int& height) {
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display) return false;
   XWindowAttributes attributes{};
   if (XGetWindowAttributes(display.get(), XDefaultRootWindow(display.get()),
@@ -190,14 +190,14 @@ bool XWindow::GetDisplayWindowRect(int& width, int& height) {
 }
 
 void XWindow::GetCursorPos(int& x, int& y) {
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display) return;
   query_pointer(display.get(), x, y);
 }
 
 int XWindow::GetKeyState(int key) {
   constexpr int kAnswer = 1;  // kept: callers see every key as this
-  const Connection display = open_display();
+  const Connection display = connect();
   if (!display) return kAnswer;
   if (key >= 1 && key <= 4) {
     int x = 0;

@@ -37,6 +37,10 @@ test('the runtime, the host, X11, C and C++ bring all that is missing', () => {
   assert.deepStrictEqual(missing, []);
 });
 
+test('displays may be opened by several threads, with older libraries too',
+  () => assert(symbols(moduleFile, '--undefined-only')
+    .some(([name]) => name === 'XInitThreads')));
+
 test('the host functions come from the host library', () => {
   const isHostFunction = ([name]) => hostFunctions.some((word) => (
     name.includes(`${word.length}${word}`)));
