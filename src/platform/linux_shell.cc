@@ -127,7 +127,7 @@ std::string LinuxShell::MacId::GetIp() {
     std::fputs("GetIp: the address is longer than 12 characters\n", stderr);
     std::abort();
   }
-  // Left open (kept: the port stays this process's).
+  // Quirk: the socket stays open, and the port with it.
   socket.release();
   return dotted;
 }

@@ -1,6 +1,8 @@
 #include "script/korvane_helper.h"
 
-const KorvaneHelper::Export KorvaneHelper::kExports[kExportCount] = {
+#include <iterator>
+
+const KorvaneHelper::Export KorvaneHelper::kExports[] = {
     {"printEtwLog", PrintEtwLog},
     {"printAdvancedEtwLog", PrintAdvancedEtwLog},
     {"attachShadowWindow", AttachShadowWindow},
@@ -165,6 +167,7 @@ const KorvaneHelper::Export KorvaneHelper::kExports[kExportCount] = {
     {"System", guarded<System>},
     {"trackEvent", TrackEvent},
 };
+static_assert(std::size(KorvaneHelper::kExports) == 163);
 
 // One registration: a function template with the defaults, its function, and
 // that function's name and property. A registration that fails leaves its name

@@ -21,9 +21,8 @@ class KorvaneHelper {
     const char* name;
     v8::FunctionCallback function;
   };
-  static constexpr int kExportCount = 163;
   // In registration order.
-  static const Export kExports[kExportCount];
+  static const Export kExports[];
 
   // Sets one function a row on `exports`. Throws nothing, and keeps no state:
   // every script thread may have its own.
@@ -183,9 +182,10 @@ class KorvaneHelper {
   // Calls back with a boolean (`success` not 0) and a number.
   static int OnGetDriveMediaType(std::int32_t success, std::int32_t media_type,
                                  CallbackHolder* holder);
-  // Call back with an array of texts. Each text is read as 16-bit units and so
-  // ends behind its first character below U+10000 (kept: callers convert to
-  // UTF-16 first).
+  // Call back with an array of strings.
+  // Quirk: each string's storage is read as 16-bit code units. A character is
+  // two of them, and an element ends before the first that is zero: behind the
+  // first character below U+10000, or before one whose low half is zero.
   static int OnGetCpuList(std::int32_t request_id,
                           const std::vector<std::wstring>& names,
                           CallbackHolder* holder);
