@@ -1,7 +1,7 @@
 #include <string_view>
-#include <type_traits>
 
 #include <korvane/korvane_host.h>
+#include "text/ascii.h"
 #include "text/iconv_conversion.h"
 #include "text/utf8.h"
 
@@ -10,6 +10,8 @@ namespace {
 using qk::text::convert;
 using qk::text::decode_utf8;
 using qk::text::encode_utf8;
+using qk::text::is_ascii;
+using qk::text::until_zero;
 
 struct CodePage {
   int number;
@@ -44,21 +46,6 @@ bool convert_bytes(const char* from, std::string_view bytes,
                  wide, qk::text::Ending::kFlushed);
 }
 
-// Whether `text` is ASCII without a zero: the same in every encoding here. One
-// loop without a branch, so that the compiler looks at several units at once.
-template <typename Unit>
-bool is_plain(std::basic_string_view<Unit> text) {
-  using Code = std::conditional_t<sizeof(Unit) == 1, unsigned char, char32_t>;
-  Code seen = 0;
-  Code zeros = 0;
-  for (const Unit unit : text) {
-    const auto code = static_cast<Code>(unit);
-    seen |= code;
-    zeros |= code == 0 ? 1 : 0;
-  }
-  return seen < 0x80 && zeros == 0;
-}
-
 // Bytes 80 to 9F of Western; the five that it leaves undefined are themselves.
 constexpr wchar_t kWestern[] = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
@@ -88,16 +75,19 @@ std::wstring decode(std::string_view bytes, int code_page) {
   return decode_western(bytes);
 }
 
+// ASCII is the same in every encoding here.
 std::string to_utf8(std::wstring_view wide) {
-  if (is_plain(wide)) return {wide.begin(), wide.end()};
+  const std::wstring_view text = until_zero(wide);
+  if (is_ascii(text)) return {text.begin(), text.end()};
   std::string utf8;
-  encode_utf8(wide.substr(0, wide.find(L'\0')), utf8);
+  encode_utf8(text, utf8);
   return utf8;
 }
 
 std::wstring to_wide(std::string_view bytes, int code_page) {
-  if (is_plain(bytes)) return {bytes.begin(), bytes.end()};
-  return decode(bytes.substr(0, bytes.find('\0')), code_page);
+  const std::string_view text = until_zero(bytes);
+  if (is_ascii(text)) return {text.begin(), text.end()};
+  return decode(text, code_page);
 }
 
 }  // namespace

@@ -10,10 +10,7 @@
 
 namespace qk::url {
 
-template <typename Unit>
-std::basic_string_view<Unit> until_zero(std::basic_string_view<Unit> text) {
-  return text.substr(0, text.find(Unit(0)));
-}
+using text::until_zero;
 
 // Gives `read` the text up to its first zero in the default narrow encoding and
 // answers what it answers. ASCII text, the same in every encoding, is handed on

@@ -5,12 +5,11 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
 
-#include "text/code_of.h"
+#include "text/ascii.h"
 #include "url/character_classes.h"
 
 namespace qk::url {
@@ -39,12 +38,7 @@ class Scratch {
 
 using ScratchText = Scratch<256>;
 
-template <typename Unit>
-bool is_ascii(std::basic_string_view<Unit> text) {
-  std::uint32_t seen = 0;
-  for (const Unit unit : text) seen |= text::code_of(unit);
-  return seen < 0x80;
-}
+using text::is_ascii;
 
 struct DecodedText {
   std::wstring_view text;
