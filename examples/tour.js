@@ -16,7 +16,7 @@ const names = Object.keys(helper);
 
 heading('KorvaneHelper in its runtime');
 line('runtime', `Node.js ${process.version}`);
-line('module interface', process.versions.modules);
+line('Node.js ABI', process.versions.modules);
 line('module', path.relative('', file));
 line('functions', `${names.length}: ${names[0]}, ${names[1]}, … ` +
   `${names[names.length - 1]}`);
@@ -50,9 +50,9 @@ heading('The clipboard registration calls back at once');
 const answer = helper.attachClipBoard((...args) => {
   line('called back with', args.map((arg) => JSON.stringify(arg)).join(', '));
 });
-line('and answered', answer);
+line('and returned', answer);
 
-heading('Wrong arguments are answered, never thrown');
+heading('Wrong arguments get an answer, never an exception');
 show('asyncUnZipFile("a.zip")');
 show('getDriveType(Symbol("odd"))');
 show('getWindowRect()');
