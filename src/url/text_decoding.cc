@@ -1,75 +1,55 @@
 #include "url/text_decoding.h"
 
 #include <korvane/korvane_host.h>
-#include <korvane/url_object.h>
 #include "url/percent_coding.h"
 
 namespace qk::url {
 namespace {
 
-constexpr unsigned kDefaultCodePage = 0;
-constexpr unsigned kAnyCodePage = 0xFFFFFFFF;
-
-unsigned named_code_page(unsigned code_page) {
-  return code_page == kAnyCodePage ? kDefaultCodePage : code_page;
+// Whether `code_page` is known to read 7-bit bytes as ASCII. Another host may
+// know code pages that do not.
+bool reads_ascii(unsigned code_page) {
+  constexpr unsigned kUtf8 = 65001;
+  return is_default_code_page(code_page) || code_page == kUtf8;
 }
 
-unsigned code_page_of(const std::string& bytes, unsigned code_page) {
-  const unsigned named = named_code_page(code_page);
-  if (named != kDefaultCodePage) return named;
-  return named_code_page(
-      url_object::get_generally_codepage(bytes, kAnyCodePage));
-}
-
-void cut_at_zero(DecodedText& decoded) {
-  if (!decoded.holds(kZero)) return;
-  decoded.text = decoded.text.substr(0, decoded.text.find(L'\0'));
-}
-
-// The classes of the units up to the first "%" and of that.
-CharacterClasses classes_until_escape(std::wstring_view text) {
-  unsigned classes = 0;
-  for (std::size_t i = 0; i < text.size() && (classes & kPercent) == 0; ++i) {
-    classes |= classes_of(text[i]);
+bool has_foreign_escape(std::wstring_view text) {
+  for (std::size_t at = text.find(L'%'); at != std::wstring_view::npos;
+       at = text.find(L'%', at + 1)) {
+    const unsigned value = escape_at(text, at);
+    if (value != kNoEscape && value > 0x7F) return true;
   }
-  return static_cast<CharacterClasses>(classes);
+  return false;
 }
 
-// Units of 0 to 255 where `text` is ASCII.
-void decode_escapes(std::wstring_view text, ScratchText& scratch,
-                    DecodedText& decoded) {
-  wchar_t* const begin = scratch.reserve(text.size());
-  unsigned classes = 0;
-  const wchar_t* const end = percent_decode(
-      text, begin, [&classes](wchar_t unit) { classes |= classes_of(unit); });
-  decoded.text = {begin, static_cast<std::size_t>(end - begin)};
-  decoded.classes = static_cast<CharacterClasses>(classes);
-}
-
-void convert(const std::string& bytes, unsigned code_page, ScratchText& scratch,
-             DecodedText& decoded) {
-  decoded.text = scratch.hold(string_to_wstring_with_code_page(
-      bytes, static_cast<int>(code_page_of(bytes, code_page))));
-  decoded.classes = classes_in(decoded.text);
+std::wstring convert(std::wstring_view text, unsigned code_page,
+                     ChooseCodePage choose) {
+  std::string bytes(text.size(), '\0');
+  const char* const end = percent_decode(text, bytes.data());
+  bytes.resize(static_cast<std::size_t>(end - bytes.data()));
+  return string_to_wstring_with_code_page(
+      bytes, static_cast<int>(choose(bytes, code_page)));
 }
 
 }  // namespace
 
 DecodedText decode_with_code_page(std::wstring_view text, unsigned code_page,
-                                  ScratchText& scratch) {
-  DecodedText decoded = {text, classes_until_escape(text)};
-  if (decoded.holds(kForeign)) return {text, kEveryClass};
-  if (decoded.holds(kPercent)) {
-    decode_escapes(text, scratch, decoded);
-    if (decoded.holds(kForeign) && !is_ascii(text)) return {text, kEveryClass};
+                                  ScratchText& scratch, ChooseCodePage choose) {
+  CharacterClasses classes = classes_in(text);
+  if (text.empty() || (classes & kForeign) != 0) return {text, classes};
+  if (!reads_ascii(code_page) ||
+      ((classes & kPercent) != 0 && has_foreign_escape(text))) {
+    text = scratch.hold(convert(text, code_page, choose));
+    return {text, classes_in(text)};
   }
-  cut_at_zero(decoded);
-  // Every code page agrees with ASCII: only other bytes need the conversion.
-  if (decoded.holds(kForeign)) {
-    convert({decoded.text.begin(), decoded.text.end()}, code_page, scratch,
-            decoded);
+  if ((classes & kPercent) != 0) {
+    wchar_t* const begin = scratch.reserve(text.size());
+    const wchar_t* const end = percent_decode(text, begin);
+    text = {begin, static_cast<std::size_t>(end - begin)};
+    classes = classes_in(text);
   }
-  return decoded;
+  if ((classes & kZero) != 0) text = text.substr(0, text.find(L'\0'));
+  return {text, classes};
 }
 
 }  // namespace qk::url

@@ -47,20 +47,29 @@ struct DecodedText {
   bool holds(CharacterClasses some) const { return (classes & some) != 0; }
 };
 
-// Whether decoding leaves `text` as it is, whatever the code page.
-inline bool is_decoded(std::wstring_view text) {
-  return std::none_of(text.begin(), text.end(), [](wchar_t unit) {
-    return unit == L'%' || unit == L'\0';
-  });
+constexpr unsigned kDefaultCodePage = 0;
+
+inline bool is_default_code_page(unsigned code_page) {
+  return code_page == kDefaultCodePage || code_page == 0xFFFFFFFF;
 }
 
-// Text that holds a unit above 127 counts as decoded and is given back as it
-// is. Other text is percent-decoded to bytes, up to the first zero, and read in
-// `code_page`; 0 and 0xFFFFFFFF mean the default narrow encoding.
+// Chooses the code page that bytes are read in from the one that was asked for.
+using ChooseCodePage = unsigned (*)(const std::string& bytes,
+                                    unsigned code_page);
+
+inline unsigned choose_as_asked(const std::string& /*bytes*/,
+                                unsigned code_page) {
+  return code_page;
+}
+
+// Text that holds a unit above 127 counts as decoded and is returned as it is.
+// Other text is percent-decoded to bytes and read in `code_page`, up to the
+// first zero; 0 and 0xFFFFFFFF mean the default narrow encoding.
 //
 // The result is a view of `text` or of `scratch`.
 DecodedText decode_with_code_page(std::wstring_view text, unsigned code_page,
-                                  ScratchText& scratch);
+                                  ScratchText& scratch,
+                                  ChooseCodePage choose = choose_as_asked);
 
 }  // namespace qk::url
 

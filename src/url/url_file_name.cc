@@ -60,6 +60,13 @@ std::wstring_view without_trailing_blanks(std::wstring_view text) {
   return text;
 }
 
+unsigned detected_code_page(const std::string& bytes, unsigned code_page) {
+  if (!is_default_code_page(code_page)) return code_page;
+  const unsigned detected =
+      url_object::get_generally_codepage(bytes, 0xFFFFFFFF);
+  return is_default_code_page(detected) ? kDefaultCodePage : detected;
+}
+
 bool is_illegal(wchar_t unit) { return is_one_of(unit, kIllegal); }
 
 // The name within decoded text that holds separators or a query.
@@ -128,7 +135,8 @@ std::wstring_view word_with_extension(std::wstring_view text) {
 
 FileName find_file_name(std::wstring_view text, unsigned code_page,
                         ScratchText& scratch) {
-  const DecodedText decoded = decode_with_code_page(text, code_page, scratch);
+  const DecodedText decoded =
+      decode_with_code_page(text, code_page, scratch, detected_code_page);
   // Separators and "?" are illegal too: most names need one look only.
   const bool is_clean = !decoded.holds(kIllegal);
   std::wstring_view raw = without_trailing_blanks(decoded.text);
@@ -144,7 +152,7 @@ FileName find_file_name(std::wstring_view text, unsigned code_page,
 
 void write_file_name(const FileName& name, wchar_t* out) {
   if (name.is_clean) {
-    name.text.copy(out, name.text.size());
+    std::copy(name.text.begin(), name.text.end(), out);
   } else {
     std::replace_copy_if(name.text.begin(), name.text.end(), out, is_illegal,
                          L'_');

@@ -7,8 +7,25 @@
 #include <string_view>
 #include <tuple>
 
+#include <korvane/korvane_host.h>
 #include <korvane/url_object.h>
 #include "rows.h"
+
+// Another host's text library: it also knows a code page whose bytes are all
+// 7-bit. The linker replaces calls of ours by calls of this one.
+std::wstring read_by_own_host(const std::string& bytes, int code_page) asm(
+    "__real__Z32string_to_wstring_with_code_pageRKNSt7__cxx1112basic_stringIcSt"
+    "11char_traitsIcESaIcEEEi");
+std::wstring read_by_host(const std::string& bytes, int code_page) asm(
+    "__wrap__Z32string_to_wstring_with_code_pageRKNSt7__cxx1112basic_stringIcSt"
+    "11char_traitsIcESaIcEEEi");
+
+static int last_code_page = 0;
+
+std::wstring read_by_host(const std::string& bytes, int code_page) {
+  last_code_page = code_page;
+  return bytes == "\x1B$B" ? L"7-bit" : read_by_own_host(bytes, code_page);
+}
 
 namespace {
 
@@ -56,6 +73,14 @@ TEST(DecodeWithCodePage, ReadsEscapesAsBytes) {
       "code pages", [](const std::wstring& text, unsigned code_page) {
         return url_object::decode_ex(text, code_page);
       });
+}
+
+TEST(DecodeWithCodePage, AsksTheHostAndNoHook) {
+  EXPECT_EQ(url_object::decode_ex(L"%1B%24B", 50220), L"7-bit");
+  url_object::decode_ex(L"%E9", 0xFFFFFFFF);
+  EXPECT_EQ(last_code_page, -1);
+  url_object::file_name_for(L"%E9", 0xFFFFFFFF);
+  EXPECT_EQ(last_code_page, 0);
 }
 
 TEST(Encode, EscapesSpecialAndReservedCharacters) {
