@@ -7,7 +7,7 @@
  *    a length of 0, unless a code for it is stated.
  * 2. Every buffer and record belongs to the caller. Nothing that is returned
  *    needs to be freed; nothing that is passed is kept. Outputs do not overlap
- *    inputs.
+ *    inputs, except where a function says so.
  * 3. A function that fails leaves its outputs as they were, except where it
  *    says otherwise. On success the units of an array beyond its length stay
  *    as they were too.
@@ -83,7 +83,8 @@ long parse_url_u(const wchar_t* url, size_t url_len, unsigned code_page,
 
 /* Prints a URL to `out`; `*out_len` is the capacity of `out` before and the
  * length written after the call. A port that is the scheme's own is left out;
- * port 0 gives the empty text. The lengths in `info` are trusted.
+ * port 0 gives the empty text. The lengths in `info` are trusted. `out` may lie
+ * within `info`.
  * URL_E_INVALID_ARG: a pointer is null.
  * URL_E_BUFFER: the text is longer than `*out_len`.
  */

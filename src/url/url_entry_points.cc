@@ -3,7 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include <korvane/korvane_host.h>
 #include <korvane/korvane_links.h>
 #include "url/entry_point.h"
 #include "url/text_decoding.h"
@@ -55,7 +54,6 @@ bool put(std::wstring_view text, std::uint64_t& length,
 
 std::wstring_view decoded(std::wstring_view text, unsigned code_page,
                           ScratchText& scratch) {
-  if (qk::url::is_decoded(text)) return text;
   return decode_with_code_page(text, code_page, scratch).text;
 }
 
@@ -100,14 +98,6 @@ bool is_readable(const UrlParts& parts) {
   return std::max(lengths) <= kLongestText;
 }
 
-// The scheme that `bytes` name; ASCII is the same in every narrow encoding.
-SCHEMA_TYPE schema_type_of_bytes(std::string_view bytes) {
-  const std::string_view text = bytes.substr(0, bytes.find('\0'));
-  if (qk::url::is_ascii(text)) return schema_type_of(text);
-  const std::wstring wide = string_2_wstring(std::string(text));
-  return schema_type_of(std::wstring_view(wide));
-}
-
 bool is_supported(SCHEMA_TYPE type) {
   // Kept: callers rely on "peer://" being parsed and yet not supported.
   return type != SCHEMA_PEER && type != SCHEMA_UNKNOWN;
@@ -133,7 +123,11 @@ long url_info_to_str_u(wchar_t* out, size_t* out_len, const url_info_u* info) {
     if (!is_readable(parts)) return URL_E_BUFFER;
     const std::size_t size = printed_size(parts);
     if (size > *out_len) return URL_E_BUFFER;
-    print_url(parts, out);
+    // `out` may lie within the record.
+    ScratchText scratch;
+    wchar_t* const printed = scratch.reserve(size);
+    print_url(parts, printed);
+    std::copy_n(printed, size, out);
     *out_len = size;
     return 0;
   });
@@ -162,9 +156,8 @@ long is_support_schema(const char* schema, size_t schema_len,
                        unsigned* supported) {
   if (schema == nullptr || supported == nullptr) return URL_E_INVALID_ARG;
   if (schema_len > kLongestText) return URL_E_BUFFER;
-  return answer(URL_E_BUFFER, [&]() -> long {
-    const SCHEMA_TYPE type = schema_type_of_bytes({schema, schema_len});
-    *supported = is_supported(type) ? 1 : 0;
-    return 0;
-  });
+  // Schemes are ASCII, which every narrow encoding reads alike.
+  const auto type = schema_type_of(std::string_view(schema, schema_len));
+  *supported = is_supported(type) ? 1 : 0;
+  return 0;
 }

@@ -122,6 +122,13 @@ TEST(UrlInfoToStrU, TrustsLengthsAndTakesTheLowHalfOfThePort) {
   EXPECT_EQ(printed(info), L"http://" + longer + L"Q:81");
 }
 
+TEST(UrlInfoToStrU, PrintsIntoTheRecord) {
+  url_info_u info = record(L"host", 81);
+  std::size_t size = URL_FIELD_CAPACITY;
+  EXPECT_EQ(url_info_to_str_u(info.host, &size, &info), 0);
+  EXPECT_EQ(std::wstring(info.host, size), L"http://host:81");
+}
+
 TEST(LinkFunctions, RefuseNullPointers) {
   Outputs out = patterned();
   const std::pair<long, long> answers[] = {

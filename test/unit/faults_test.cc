@@ -130,7 +130,6 @@ struct Outputs {
   url_info_u url;
   std::array<wchar_t, 512> text;
   std::size_t length;
-  unsigned supported;
   ed2k_url_info_u file;
   std::array<unsigned char, 20> hash;
 } outputs, untouched;
@@ -160,9 +159,6 @@ long parse_url() {
 long parse_filename() {
   return parse_filename_u(outputs.text.data(), &outputs.length, kUrl.data(),
                           kUrl.size(), 936);
-}
-long is_support() {
-  return is_support_schema(kGbk.data(), kGbk.size(), &outputs.supported);
 }
 long parse_ed2k() {
   return parse_ed2k_url_u(kEd2k.data(), kEd2k.size(), &outputs.file);
@@ -206,7 +202,6 @@ const Row kRows[] = {
     {"bt_magnet_url_parser", magnet_link},
     {"parse_url_u", told(parse_url, outputs.url.user_len), "0, 256", "-4"},
     {"parse_filename_u", told(parse_filename, outputs.length), "0, 256", "-4"},
-    {"is_support_schema", told(is_support, outputs.supported), "0, 0", "-4"},
     // "%": the name is not decoded.
     {"parse_ed2k_url_u", told(parse_ed2k, outputs.file.name[300]), "0, 37",
      "-1"},
