@@ -4,7 +4,7 @@
 
 #include <korvane/korvane_host.h>
 
-TEST(LastError, EachThreadHasItsOwn) {
+TEST(last_error, EachThreadHasItsOwn) {
   qk::set_last_error(20100001);
   unsigned seen = 1;
   std::thread([&seen] { seen = qk::get_last_error(); }).join();

@@ -105,8 +105,8 @@ void read_file(Table& table, std::string_view name, const std::string& path) {
 
 std::vector<Row> rows_of(std::string_view name) {
   Table table;
-  for (const char* file : {"/text_rows.txt", "/url_rows.txt", "/ed2k_links.txt",
-                           "/magnet_links.txt"}) {
+  for (const char* file :
+       {"/url_rows.txt", "/ed2k_links.txt", "/magnet_links.txt"}) {
     read_file(table, name, file);
   }
   EXPECT_FALSE(table.rows.empty()) << name;
