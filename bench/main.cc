@@ -1,23 +1,22 @@
-// Runs ours and its peers in turns and prints one line for each pair of them:
-// workload, ours, peer, its time, ours divided by it, goal; apart by tabs.
-// Times are nanoseconds for one operation, the median of all rounds.
+// Measures ours and its peers in one process, in random order:
 //
-//   link_bench [--urls FILE] [WORKLOAD]
+//   link_bench [--urls FILE] [NAME] [--benchmark_...]
 //
-// WORKLOAD is a part of the names of those that are run. --urls measures the
-// lines of a file instead of what the benchmark makes.
+// NAME is a part of WORKLOAD/LIST.
 #include <malloc.h>
 
 #include <clocale>
-#include <cstdio>
-#include <cstring>
+#include <fstream>
 
-#include "workloads.h"
+#include <korvane/korvane_host.h>
+#include "bench.h"
 
 namespace {
 
-// Memory that was given back stays in the process, as in a host that has run
-// for a while; otherwise large texts pay for pages that the kernel clears.
+std::string wanted;
+
+// Freed memory stays in the process, as in a host that has run for a while:
+// otherwise large texts pay for pages that the kernel clears.
 void keep_memory() {
   constexpr int kMost = 1 << 30;
   mallopt(M_MMAP_THRESHOLD, kMost);
@@ -26,27 +25,49 @@ void keep_memory() {
 
 }  // namespace
 
+bool bench::is_wanted(const std::string& row) {
+  return row.find(wanted) != std::string::npos;
+}
+
+bench::Text bench::make_text(const std::string& narrow) {
+  return {narrow, string_2_wstring(narrow)};
+}
+
+bench::Texts bench::read_lines(const std::string& path) {
+  std::ifstream file(path);
+  Texts texts;
+  for (std::string line; std::getline(file, line);) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (!line.empty()) texts.push_back(make_text(line));
+  }
+  return texts;
+}
+
+std::string bench::repeated(std::string_view text, std::size_t size) {
+  std::string result;
+  while (result.size() < size) result += text;
+  result.resize(size);
+  return result;
+}
+
 int main(int count, char** arguments) {
   std::setlocale(LC_ALL, "C.UTF-8");
   keep_memory();
+  benchmark::Initialize(&count, arguments);
   const char* list = nullptr;
-  const char* filter = "";
   for (int i = 1; i < count; ++i) {
-    if (std::strcmp(arguments[i], "--urls") == 0 && i + 1 < count) {
+    if (std::string_view(arguments[i]) == "--urls" && i + 1 < count) {
       list = arguments[++i];
     } else {
-      filter = arguments[i];
+      wanted = arguments[i];
     }
   }
-  const bench::Table table(filter);
   if (list != nullptr) {
-    bench::run_list(table, bench::read_lines(list));
-    return 0;
+    bench::register_file(list);
+  } else {
+    bench::register_links();
+    bench::register_codecs();
+    bench::register_growth();
   }
-  bench::run_urls(table);
-  bench::run_links(table);
-  bench::run_codecs(table);
-  bench::run_conversions(table);
-  bench::run_growth(table);
-  return 0;
+  benchmark::RunSpecifiedBenchmarks();
 }

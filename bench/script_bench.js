@@ -1,38 +1,42 @@
 'use strict';
 
-// Measures the script functions in the real runtime, in turns with addons that
-// do the same by hand; prints lines of the form that link_bench prints.
+// Measures the script functions in the real runtime, in random order with
+// addons that do the same by hand; prints JSON as link_bench writes it.
 //
-//   script_bench.js MODULE ADDONS calls|windows|require [WORKLOAD]
+//   script_bench.js MODULE ADDONS [NAME]
 //
-// WORKLOAD is a part of the names of those that are run.
+// NAME is a part of WORKLOAD/LIST.
 
 const path = require('path');
 const { execFileSync } = require('child_process');
 
-const [, , modulePath, addons, part, filter = ''] = process.argv;
+const [, , modulePath, addons, wanted = ''] = process.argv;
 const addon = (name) => path.join(addons, `${name}.node`);
-const ROUNDS = 15;
+const helper = require(modulePath);
+const byHand = require(addon('by_hand'));
+const benchmarks = [];
 
-function median(values) {
-  return values.sort((a, b) => a - b)[Math.floor(values.length / 2)];
+// Each contender returns nanoseconds.
+function measure(row, contenders, rounds = 31) {
+  if (!row.includes(wanted)) return;
+  const names = Object.keys(contenders);
+  for (let round = 0; round < rounds; round += 1) {
+    names.sort(() => Math.random() - 0.5).forEach((name) => {
+      benchmarks.push({ name: `${row}/${name}`, cpu_time: contenders[name]() });
+    });
+  }
 }
 
-// Two contenders give the time of one operation; they swap places each round.
-function compare(workload, rival, goal, ours, theirs, rounds = ROUNDS) {
-  if (!workload.includes(filter)) return;
-  const times = { ours: [], theirs: [], ratios: [] };
-  for (let round = 0; round < rounds; round += 1) {
-    const first = round % 2 === 0 ? ours() : theirs();
-    const second = round % 2 === 0 ? theirs() : ours();
-    const [our, their] = round % 2 === 0 ? [first, second] : [second, first];
-    times.ours.push(our);
-    times.theirs.push(their);
-    times.ratios.push(our / their);
-  }
-  console.log([workload, median(times.ours).toFixed(2), rival,
-    median(times.theirs).toFixed(2), median(times.ratios).toFixed(3),
-    goal === Infinity ? '' : goal.toFixed(2)].join('\t'));
+// What this process has used of the processor.
+function used() {
+  const { user, system } = process.cpuUsage();
+  return (user + system) * 1e3;
+}
+
+// Windows wait for the server: what counts is the time that passes.
+function passed() {
+  const [seconds, nanoseconds] = process.hrtime();
+  return seconds * 1e9 + nanoseconds;
 }
 
 let loops = 0;
@@ -52,59 +56,37 @@ function timer(now, calls, target, text) {
   };
 }
 
-function compareCalls() {
-  const helper = require(modulePath);
-  const calls = require(addon('calls'));
-  const time = (target, text) => timer(calls.now, 50000, target, text);
-  const empty = time(calls.empty, '');
-  ['isWin7', 'isDwmCompositionEnabled', 'getDesktopPath'].forEach((name) => {
-    compare(`${name}, a fixed answer`, 'an empty function', 1.3,
-      time(helper[name], ''), empty);
-  });
-  [["three texts read", "'one', 'two', 'three', done"],
-    ['three texts missing', "'one', 2, 'three', done"]].forEach((row) => {
-    compare(`asyncUpgradeEmuleTask, ${row[0]}`, 'checks by hand', 1.1,
-      time(helper.asyncUpgradeEmuleTask, row[1]),
-      time(calls.readThreeTexts, row[1]));
+function compare(row, name, [ours, theirs], text, now = used, calls = 100000) {
+  measure(row, {
+    ours: timer(now, calls, ours, text), [name]: timer(now, calls, theirs, text),
   });
 }
 
-// Round trips to the server: what counts is the time that passes.
-function passed() {
-  const [seconds, nanoseconds] = process.hrtime();
-  return seconds * 1e9 + nanoseconds;
-}
+['isWin7', 'isDwmCompositionEnabled', 'getDesktopPath'].forEach((name) => {
+  compare(`${name}/fixed`, 'empty function', [helper[name], byHand.empty], '');
+});
+[['read', "'one', 'two', 'three', done"], ['missing', "'one', 2, 'three', done"]]
+  .forEach(([list, text]) => {
+    compare(`asyncUpgradeEmuleTask/three texts ${list}`, 'by hand',
+      [helper.asyncUpgradeEmuleTask, byHand.readThreeTexts], text);
+  });
+[['getCursorPos', ''], ['moveWindow', `${byHand.createWindow()}, 1, 2, 100, 80, true`]]
+  .forEach(([name, text]) => {
+    compare(`${name}/a display`, 'libX11', [helper[name], byHand[name]], text, passed, 20);
+  });
 
-function compareWindows() {
-  const helper = require(modulePath);
-  const byHand = require(addon('windows'));
-  const window = byHand.createWindow();
-  [['getCursorPos', ''], ['moveWindow', `${window}, 1, 2, 100, 80, true`]]
-    .forEach(([name, text]) => {
-      compare(name, 'libX11 by hand', 1.10,
-        timer(passed, 20, helper[name], text),
-        timer(passed, 20, byHand[name], text), 41);
-    });
-}
+// A process for each turn: a module is loaded once.
+const load = (file, ...before) => () => Number(execFileSync(process.execPath, ['-e', `
+  const used = ${used};
+  ${JSON.stringify(before)}.forEach((one) => require(one));
+  const begin = used();
+  require(${JSON.stringify(file)});
+  console.log(used() - begin);`]));
+measure('require/desktop process', {
+  ours: load(modulePath, addon('by_hand')), '163 functions': load(addon('functions'), addon('by_hand')),
+});
+measure('require/with its libraries', {
+  ours: load(modulePath), '163 functions': load(addon('linked_functions')),
+});
 
-// A process for each: a module is loaded once. Without a goal the row only
-// tells what loading the libraries costs.
-function compareRequire() {
-  const time = (file, ...before) => () => {
-    const loaded = [addon('calls'), ...before].map((one) => JSON.stringify(one));
-    return Number(execFileSync(process.execPath, ['-e', `
-      const [{ now }] = [${loaded}].map((file) => require(file));
-      const begin = now();
-      require(${JSON.stringify(file)});
-      console.log(now() - begin);`]));
-  };
-  const desktop = addon('desktop');
-  compare('require, in a desktop process', '163 empty functions', 1.15,
-    time(modulePath, desktop), time(addon('functions'), desktop), 31);
-  compare('require, with its libraries', '163 functions, same libraries', 1.15,
-    time(modulePath), time(addon('linked_functions')), 31);
-  compare('require, with its libraries', '163 empty functions', Infinity,
-    time(modulePath), time(addon('functions')), 31);
-}
-
-({ calls: compareCalls, windows: compareWindows, require: compareRequire })[part]();
+console.log(JSON.stringify({ benchmarks }));

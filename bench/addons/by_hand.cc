@@ -1,12 +1,28 @@
-// The X library called by hand, on a connection for each call.
+// What script functions do, written out with the runtime's and the X library's
+// own calls. It links what the module links: with it loaded, the process is
+// like the desktop program that the module is made for.
 #include <node.h>
 
-// Behind the runtime's header, which names things as the X library's macros do.
+// After the runtime's header, whose names the X library's macros replace.
 #include <X11/Xlib.h>
 
 namespace {
 
 using Arguments = v8::FunctionCallbackInfo<v8::Value>;
+
+void empty(const Arguments&) {}
+
+// Three texts and a function, tested and read.
+void read_three_texts(const Arguments& arguments) {
+  if (arguments.Length() >= 4 && arguments[0]->IsString() &&
+      arguments[1]->IsString() && arguments[2]->IsString() &&
+      arguments[3]->IsFunction()) {
+    const v8::String::Value first(arguments[0]);
+    const v8::String::Value second(arguments[1]);
+    const v8::String::Value third(arguments[2]);
+  }
+  arguments.GetReturnValue().Set(0);
+}
 
 int integer(const Arguments& arguments, int index) {
   return arguments[index]->Int32Value();
@@ -18,7 +34,7 @@ void set(v8::Isolate* isolate, v8::Local<v8::Object> object, const char* key,
               v8::Integer::New(isolate, value));
 }
 
-// Answers a new window that stays until the process ends.
+// Returns a new window that stays until the process ends.
 void create_window(const Arguments& arguments) {
   static Display* const display = XOpenDisplay(nullptr);
   const Window window = XCreateSimpleWindow(
@@ -29,14 +45,13 @@ void create_window(const Arguments& arguments) {
 
 void get_cursor_pos(const Arguments& arguments) {
   Display* display = XOpenDisplay(nullptr);
-  Window root = None;
-  Window child = None;
+  Window window = None;
   int root_x = 0;
   int root_y = 0;
   int x = 0;
   int y = 0;
   unsigned buttons = 0;
-  XQueryPointer(display, XDefaultRootWindow(display), &root, &child, &root_x,
+  XQueryPointer(display, XDefaultRootWindow(display), &window, &window, &root_x,
                 &root_y, &x, &y, &buttons);
   XCloseDisplay(display);
   v8::Isolate* isolate = arguments.GetIsolate();
@@ -57,6 +72,8 @@ void move_window(const Arguments& arguments) {
 }
 
 void register_functions(v8::Local<v8::Object> exports) {
+  NODE_SET_METHOD(exports, "empty", empty);
+  NODE_SET_METHOD(exports, "readThreeTexts", read_three_texts);
   NODE_SET_METHOD(exports, "createWindow", create_window);
   NODE_SET_METHOD(exports, "getCursorPos", get_cursor_pos);
   NODE_SET_METHOD(exports, "moveWindow", move_window);
@@ -64,4 +81,4 @@ void register_functions(v8::Local<v8::Object> exports) {
 
 }  // namespace
 
-NODE_MODULE(windows, register_functions)
+NODE_MODULE(by_hand, register_functions)

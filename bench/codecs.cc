@@ -1,0 +1,230 @@
+// Codecs and transcoders, on texts of several sizes.
+#include <apr_encode.h>
+#include <iconv.h>
+#include <openssl/crypto.h>
+#include <openssl/evp.h>
+
+#include <random>
+
+#include <korvane/encoders.h>
+#include <korvane/korvane_host.h>
+#include <korvane/korvane_links.h>
+#include <korvane/transcode.h>
+#include "bench.h"
+
+namespace bench {
+namespace {
+
+using qk::text::transcode;
+
+// `out` is large enough; what returns a text replaces it.
+using Codec = bool (*)(const std::string& in, std::string& out);
+
+const unsigned char* octets(const std::string& bytes) {
+  return reinterpret_cast<const unsigned char*>(bytes.data());
+}
+
+unsigned char* octets(std::string& bytes) {
+  return reinterpret_cast<unsigned char*>(bytes.data());
+}
+
+apr_ssize_t size_of(const std::string& bytes) {
+  return static_cast<apr_ssize_t>(bytes.size());
+}
+
+bool openssl_encode_base64(const std::string& bytes, std::string& out) {
+  return EVP_EncodeBlock(octets(out), octets(bytes),
+                         static_cast<int>(bytes.size())) > 0;
+}
+
+bool openssl_decode_base64(const std::string& text, std::string& out) {
+  return EVP_DecodeBlock(octets(out), octets(text),
+                         static_cast<int>(text.size())) > 0;
+}
+
+bool openssl_encode_base16(const std::string& bytes, std::string& out) {
+  std::size_t size = 0;
+  return OPENSSL_buf2hexstr_ex(out.data(), out.size(), &size, octets(bytes),
+                               bytes.size(), '\0') == 1;
+}
+
+bool apr_decode_base16(const std::string& text, std::string& out) {
+  apr_size_t size = 0;
+  return apr_decode_base16_binary(octets(out), text.data(), size_of(text),
+                                  APR_ENCODE_NONE, &size) == APR_SUCCESS;
+}
+
+bool apr_encode_base32(const std::string& bytes, std::string& out) {
+  apr_size_t size = 0;
+  return apr_encode_base32_binary(out.data(), octets(bytes), size_of(bytes),
+                                  APR_ENCODE_NOPADDING, &size) == APR_SUCCESS;
+}
+
+bool apr_decode_base32(const std::string& text, std::string& out) {
+  apr_size_t size = 0;
+  return apr_decode_base32_binary(octets(out), text.data(), size_of(text),
+                                  APR_ENCODE_NONE, &size) == APR_SUCCESS;
+}
+
+bool encode64(const std::string& in, std::string& out) {
+  auto size = static_cast<unsigned>(out.size());
+  return base64_encode(out.data(), &size,
+                       reinterpret_cast<const unsigned char*>(in.data()),
+                       static_cast<unsigned>(in.size())) == 0;
+}
+
+bool decode64(const std::string& in, std::string& out) {
+  auto size = static_cast<unsigned>(out.size());
+  return base64_decode(reinterpret_cast<unsigned char*>(out.data()), &size,
+                       in.data(), static_cast<unsigned>(in.size())) == 0;
+}
+
+bool encode16(const std::string& in, std::string& out) {
+  out = encode_base16(in.data(), in.size());
+  return true;
+}
+
+bool decode16(const std::string& in, std::string& out) {
+  return decode_base16(in.data(), in.size(), out);
+}
+
+bool encode32(const std::string& in, std::string& out) {
+  out = encode_base32(in.data(), in.size());
+  return true;
+}
+
+bool decode32(const std::string& in, std::string& out) {
+  return decode_base32(in.data(), in.size(), out);
+}
+
+std::string encoded64(const std::string& bytes) {
+  std::string text(2 * bytes.size() + 8, '\0');
+  openssl_encode_base64(bytes, text);
+  return text.c_str();
+}
+
+void measure_codec(std::size_t size, const std::string& workload,
+                   const std::string& in, Codec ours, const char* peer,
+                   Codec theirs) {
+  const std::string row = workload + "/" + std::to_string(size) + " B";
+  if (!is_wanted(row)) return;
+  const auto run = [&](const char* contender, Codec codec) {
+    measure(row, contender,
+            [codec, in, out = std::string(2 * in.size() + 8, '\0')]() mutable {
+              return codec(in, out);
+            });
+  };
+  run("ours", ours);
+  run(peer, theirs);
+}
+
+constexpr char kWide[] = "WCHAR_T";
+constexpr char kUtf8[] = "UTF-8";
+constexpr char kGbk[] = "GBK";
+constexpr char kAnsi[] = "MS-ANSI";
+
+// Opens a converter, runs it once and closes it.
+bool iconv_once(const char* to, const char* from, const void* text,
+                std::size_t size, std::string& out) {
+  iconv_t converter = iconv_open(to, from);
+  char* input = const_cast<char*>(static_cast<const char*>(text));
+  char* output = out.data();
+  std::size_t left = out.size();
+  const std::size_t result = iconv(converter, &input, &size, &output, &left);
+  iconv_close(converter);
+  return result != static_cast<std::size_t>(-1);
+}
+
+template <typename Unit, typename Ours>
+void measure_conversion(const std::string& workload,
+                        const std::basic_string<Unit>& text, Ours ours,
+                        const char* to, const char* from) {
+  constexpr std::size_t kMostBytesEach = 4;
+  const std::string row =
+      workload + "/" + std::to_string(text.size()) + " units";
+  if (!is_wanted(row)) return;
+  std::string out(kMostBytesEach * (text.size() + 1), '\0');
+  measure(row, "ours", [ours, text]() mutable { return ours(text); });
+  measure(row, "iconv", [to, from, text, out]() mutable {
+    return iconv_once(to, from, text.data(), text.size() * sizeof(Unit), out);
+  });
+}
+
+template <typename In, typename Out>
+void measure_transcoder(const char* name,
+                        void (*ours)(const In*, unsigned,
+                                     std::basic_string<Out>&),
+                        const std::basic_string<In>& text, const char* to,
+                        const char* from) {
+  const auto run = [ours, out = std::basic_string<Out>()](
+                       const std::basic_string<In>& in) mutable {
+    ours(in.data(), static_cast<unsigned>(in.size()), out);
+    return out.data();
+  };
+  measure_conversion(name, text, run, to, from);
+}
+
+// Whole characters, ten of them `times` over.
+void measure_transcoders(std::size_t times) {
+  std::wstring chinese;
+  std::wstring western;
+  for (std::size_t i = 0; i < times; ++i) {
+    chinese += L"My\u4E2D\u6587 file.\u540D";
+    western += L"caf\u00E9 na\u00EFve";
+  }
+  const std::string utf8 = wstring_2_utf8(chinese);
+  std::string gbk;
+  transcode::UTF8_to_GBK(utf8.data(), static_cast<unsigned>(utf8.size()), gbk);
+  std::string ansi;
+  transcode::Unicode_to_ANSI(western.data(),
+                             static_cast<unsigned>(western.size()), ansi);
+  const auto run = [](auto... arguments) { measure_transcoder(arguments...); };
+  run("Unicode_to_UTF8", transcode::Unicode_to_UTF8, chinese, kUtf8, kWide);
+  run("UTF8_to_Unicode", transcode::UTF8_to_Unicode, utf8, kWide, kUtf8);
+  run("GBK_to_UTF8", transcode::GBK_to_UTF8, gbk, kUtf8, kGbk);
+  run("UTF8_to_GBK", transcode::UTF8_to_GBK, utf8, kGbk, kUtf8);
+  run("Unicode_to_GBK", transcode::Unicode_to_GBK, chinese, kGbk, kWide);
+  run("GBK_to_Unicode", transcode::GBK_to_Unicode, gbk, kWide, kGbk);
+  run("Unicode_to_ANSI", transcode::Unicode_to_ANSI, western, kAnsi, kWide);
+  run("ANSI_to_Unicode", transcode::ANSI_to_Unicode, ansi, kWide, kAnsi);
+}
+
+void measure_host(std::size_t size) {
+  const Text text = make_text(repeated("A file's name.txt", size));
+  const auto from_gbk = [](const std::string& bytes) {
+    return string_to_wstring_with_code_page(bytes, 936);
+  };
+  measure_conversion("wstring_2_string", text.wide, wstring_2_string, kUtf8,
+                     kWide);
+  measure_conversion("wstring_2_utf8", text.wide, wstring_2_utf8, kUtf8, kWide);
+  measure_conversion("string_2_wstring", text.narrow, string_2_wstring, kWide,
+                     kUtf8);
+  measure_conversion("string_to_wstring_with_code_page", text.narrow, from_gbk,
+                     kWide, kGbk);
+}
+
+}  // namespace
+
+void register_codecs() {
+  std::mt19937 random;
+  for (const std::size_t size : {16, 100, 2048, 65536}) {
+    std::string bytes(size, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(random());
+    const auto run = [size](auto... arguments) {
+      measure_codec(size, arguments...);
+    };
+    run("base64_encode", bytes, encode64, "OpenSSL", openssl_encode_base64);
+    run("base64_decode", encoded64(bytes), decode64, "OpenSSL",
+        openssl_decode_base64);
+    run("encode_base16", bytes, encode16, "OpenSSL", openssl_encode_base16);
+    run("decode_base16", encode_base16(bytes.data(), size), decode16, "APR",
+        apr_decode_base16);
+    run("encode_base32", bytes, encode32, "APR", apr_encode_base32);
+    run("decode_base32", encode_base32(bytes.data(), size), decode32, "APR",
+        apr_decode_base32);
+  }
+  for (const std::size_t times : {2, 10, 100}) measure_transcoders(times);
+  for (const std::size_t size : {16, 100}) measure_host(size);
+}
+
+}  // namespace bench
