@@ -6,22 +6,18 @@
 
 #include "script/runtime_port.h"
 
-// One record a pending completion, on the heap, owned by whoever completes it.
+// One for each pending completion, on the heap, owned by whoever completes it.
 struct CallbackHolder {
-  // Both parts stay empty when `isolate` or the function is missing.
+  // `callback` stays empty when `owner` is null or `function` is no function.
   CallbackHolder(v8::Isolate* owner, v8::Local<v8::Value> function);
-  ~CallbackHolder();
-  CallbackHolder(const CallbackHolder&) = delete;
-  CallbackHolder& operator=(const CallbackHolder&) = delete;
 
-  // Calls the function with the global object of the isolate's current context
-  // as receiver. Its result and whatever it throws are dropped. Does nothing
-  // when a part is missing.
+  // Calls the function, if there is one, with the global object of the
+  // isolate's current context as receiver. Drops its result and what it throws.
   void call(int count, v8::Local<v8::Value>* values);
 
   std::int32_t status = 0;  // not read
   v8::Isolate* isolate;
-  v8::Persistent<v8::Function> callback;
+  v8::Global<v8::Function> callback;
 };
 
 #endif  // KORVANE_SCRIPT_CALLBACK_HOLDER_H_

@@ -169,10 +169,8 @@ const KorvaneHelper::Export KorvaneHelper::kExports[] = {
 };
 static_assert(std::size(KorvaneHelper::kExports) == 163);
 
-// One registration: a function template with the defaults, its function, and
-// that function's name and property. A registration that fails leaves its name
-// out, and none stops the others: a script may have put setters that throw, or
-// a stop to everything, in the way.
+// One registration. When it fails its name is missing and the others are not: a
+// script may have put setters that throw in the way.
 static void set_method(v8::Local<v8::Object> exports,
                        const KorvaneHelper::Export& row) {
   v8::Isolate* isolate = v8::Isolate::GetCurrent();
@@ -195,31 +193,18 @@ void KorvaneHelper::Register(v8::Local<v8::Object> exports) {
   for (const Export& row : kExports) set_method(exports, row);
 }
 
-extern "C" {
-
-static void init(v8::Local<v8::Object> exports, v8::Local<v8::Value>, void*) {
-  KorvaneHelper::Register(exports);
-}
-
-static void init_in_context(v8::Local<v8::Object> exports, v8::Local<v8::Value>,
-                            v8::Local<v8::Context>, void*) {
+// Runtimes differ in what they pass behind the exports.
+template <typename... Unused>
+static void init(v8::Local<v8::Object> exports, Unused...) {
   KorvaneHelper::Register(exports);
 }
 
 static node::node_module _module = {
-    NODE_MODULE_VERSION,
-    0,
-    nullptr,
-    "../src/korvane_helper",
-    init,
-    runtime_port::kHasWorkers ? init_in_context : nullptr,
-    "KorvaneHelper",
-    nullptr,
-    nullptr,
+    NODE_MODULE_VERSION,     0,       nullptr,
+    "../src/korvane_helper", init,    runtime_port::for_contexts(init),
+    "KorvaneHelper",         nullptr, nullptr,
 };
 
 __attribute__((constructor)) static void _register_KorvaneHelper() {
   node_module_register(&_module);
 }
-
-}  // extern "C"

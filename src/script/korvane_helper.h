@@ -1,9 +1,8 @@
 // The functions that a script can call, and the module that carries them.
 //
-// A function answers at once through its return value: none of the
-// "asyn"/"async" family calls the function that it is given. Arguments are
-// tested as script_values.h says; "texts", "numbers" and "functions" below are
-// script types, never coerced.
+// A function returns at once: none of the "asyn"/"async" family calls the
+// function that it receives. "Strings", "numbers" and "functions" below are
+// script types: nothing is coerced. See script_values.h.
 #ifndef KORVANE_SCRIPT_KORVANE_HELPER_H_
 #define KORVANE_SCRIPT_KORVANE_HELPER_H_
 
@@ -24,162 +23,169 @@ class KorvaneHelper {
   // In registration order.
   static const Export kExports[];
 
-  // Sets one function a row on `exports`. Throws nothing, and keeps no state:
-  // every script thread may have its own.
+  // Sets one function for each row on `exports`. Throws nothing and keeps no
+  // state: every script thread may have its own.
   static void Register(v8::Local<v8::Object> exports);
 
   // --- Shell, processes and files (korvane_helper_shell.cc)
 
-  // Runs a shell command (text, cut after 1,023 bytes) and answers the first
-  // 20,479 bytes of its standard output up to a zero byte; "" when it could
-  // not be started; undefined without a text. Blocks until the command ends.
-  static void System(const Arguments& arguments);
-  // Runs "df -h > tmp.text" in the current directory. Answers undefined.
-  static void ExportGetLogicalDriveStrings(const Arguments& arguments);
-  // Answer 0: (any, any, any, function) and (any...).
-  static void AsynShellExecuteAndWait(const Arguments& arguments);
-  static void AsyncShellExecute(const Arguments& arguments);
-  // Answer 0: (text, text, function).
-  static void AsyncUnZipFile(const Arguments& arguments);
-  static void AsynCopyFile(const Arguments& arguments);
-  static void AsynMoveFile(const Arguments& arguments);
-  static void AsyncUpgradeP2spTask(const Arguments& arguments);
-  // Answer 0: (text, text, text, function).
-  static void AsyncUpgradeEmuleTask(const Arguments& arguments);
-  static void AsyncUpgradeBtTask(const Arguments& arguments);
-  // Answers -1, unlike its siblings (kept: callers rely on it).
-  static void AsynDeleteFile(const Arguments& arguments);
-  // Answers 0: (text).
-  static void AsynPreLoadFile(const Arguments& arguments);
-  // Answer false.
-  static void QueryFileExists(const Arguments& arguments);
-  static void ExportQueryFileExists(const Arguments& arguments);  // not bound
-  static void ExportIsFilePathValid(const Arguments& arguments);  // (text)
-  static void SetFileAttributes(const Arguments& arguments);  // (text, number)
-  static void InitUpgrade(const Arguments& arguments);        // (text)
-  static void EmptyWorkingSet(const Arguments& arguments);
-  static void CreateShortcut(const Arguments& arguments);
-  // Answer 0.
-  static void AsyncCalcuteFileMD5(const Arguments& arguments);
-  static void AsyncFindProcess(const Arguments& arguments);
-  static void TerminateProcessByName(const Arguments& arguments);
-  static void SetProcessEnvironmentVariable(const Arguments& arguments);
-  static void RemoveProcessEnvironmentVariable(const Arguments& arguments);
-  static void UpdateDesktopIcon(const Arguments& arguments);
-  // Answer undefined.
-  static void ShutDownMachine(const Arguments& arguments);
-  static void SuspendMachine(const Arguments& arguments);
-  static void RebootMachine(const Arguments& arguments);
+  // Runs a shell command (a string, cut after 1,023 bytes) and returns the
+  // first 20,479 bytes of its standard output up to a zero byte; "" when it
+  // cannot be started; undefined without a string. Blocks until the command
+  // ends.
+  static void System(const Call& call);
+  // Runs "df -h > tmp.text" in the current directory.
+  static void ExportGetLogicalDriveStrings(const Call& call);
+  // Read their strings and return 0.
+  static void AsynShellExecuteAndWait(const Call& call);
+  static void AsyncUnZipFile(const Call& call);
+  static void AsynCopyFile(const Call& call) { AsyncUnZipFile(call); }
+  static void AsynMoveFile(const Call& call) { AsyncUnZipFile(call); }
+  static void AsyncUpgradeP2spTask(const Call& call) { AsyncUnZipFile(call); }
+  static void AsyncUpgradeEmuleTask(const Call& call);
+  static void AsyncUpgradeBtTask(const Call& call) {
+    AsyncUpgradeEmuleTask(call);
+  }
+  static void AsynPreLoadFile(const Call& call);
+  // Read their string and return false.
+  static void ExportQueryFileExists(const Call& call);  // not bound
+  static void ExportIsFilePathValid(const Call& call);
+  static void SetFileAttributes(const Call& call);
+  static void InitUpgrade(const Call& call);
 
-  // --- System and path queries (korvane_helper_system.cc)
+  static void AsyncShellExecute(const Call& call) { set_result(call, 0); }
+  // Quirk: -1, where its siblings return 0.
+  static void AsynDeleteFile(const Call& call) { set_result(call, -1); }
+  static void QueryFileExists(const Call& call) { set_result(call, false); }
+  static void EmptyWorkingSet(const Call& call) { set_result(call, false); }
+  static void CreateShortcut(const Call& call) { set_result(call, false); }
+  static void AsyncCalcuteFileMD5(const Call& call) { set_result(call, 0); }
+  static void AsyncFindProcess(const Call& call) { set_result(call, 0); }
+  static void TerminateProcessByName(const Call& call) { set_result(call, 0); }
+  static void SetProcessEnvironmentVariable(const Call& call) {
+    set_result(call, 0);
+  }
+  static void RemoveProcessEnvironmentVariable(const Call& call) {
+    set_result(call, 0);
+  }
+  static void UpdateDesktopIcon(const Call& call) { set_result(call, 0); }
+  static void ShutDownMachine(const Call&) {}
+  static void SuspendMachine(const Call&) {}
+  static void RebootMachine(const Call&) {}
+
+  // --- System and paths (korvane_helper_system.cc)
 
   // The display's scale factor, see DPIInterface.
-  static void GetMonitorDPIFactor(const Arguments& arguments);
-  static void GetSysDPIFactor(const Arguments& arguments);
-  static void GetDPIAwareSupport(const Arguments& arguments);
-  // Takes any argument as a number, truncated and saturated to 32 bits; 0, a
-  // negative number and not-a-number leave the reference as it is.
-  static void SetDefaultDPI(const Arguments& arguments);
-  // Answer "".
-  static void GetRoamingAppDataPath(const Arguments& arguments);
-  static void GetAppDataLocalLowPath(const Arguments& arguments);
-  static void ExportGetInstallChannel(const Arguments& arguments);
-  static void GetPublicUserDataPath(const Arguments& arguments);
-  static void ExportGetDesktopPath(const Arguments& arguments);
-  static void ExportGetDocumentPath(const Arguments& arguments);
-  static void GetCommonFilesPath(const Arguments& arguments);
-  static void GetDefaultBrowserPath(const Arguments& arguments);
-  static void GetLongPathName(const Arguments& arguments);
-  static void GetCpuID(const Arguments& arguments);
-  static void GetDmideCode(const Arguments& arguments);
-  static void Utf8StringDecodeFromBinary(const Arguments& arguments);
-  static void Utf8StringEncodeToBinary(const Arguments& arguments);
-  // Answers "1.0.0.1".
-  static void GetFileVersion(const Arguments& arguments);
-  // Answers 1.
-  static void GetCpuProcessors(const Arguments& arguments);
-  // Answer 0.
-  static void GetCpuFrequency(const Arguments& arguments);
-  static void DiskIdleInfo(const Arguments& arguments);
-  static void WriteINI(const Arguments& arguments);
-  static void IsWin7(const Arguments& arguments);
-  // Answers 0 for a text, otherwise undefined.
-  static void ExportGetDriveType(const Arguments& arguments);
-  // Answers true, unlike every other question (kept: callers rely on it).
-  static void IsOpenLumo(const Arguments& arguments);
-  // Answer false.
-  static void IsDwmCompositionEnabled(const Arguments& arguments);
-  static void IsDropShadowEnabled(const Arguments& arguments);
-  static void NotifyBrowserConfigChanged(const Arguments& arguments);
-  // Answer undefined; a function given to them is never called.
-  static void GetCpuList(const Arguments& arguments);
-  static void GetAppList(const Arguments& arguments);
-  static void IsSSD(const Arguments& arguments);
-  static void GetHardDiskSpaceList(const Arguments& arguments);
-  static void GetMemoryInfo(const Arguments& arguments);
-  static void IsFullScreen(const Arguments& arguments);
-  static void GetIEProxy(const Arguments& arguments);
-  static void GetTickCount(const Arguments& arguments);
-  static void ISColdStartUp(const Arguments& arguments);
-  static void GetWndHandleFromPonit(const Arguments& arguments);
-  static void GetParentWnd(const Arguments& arguments);
+  static void GetMonitorDPIFactor(const Call& call);
+  static void GetSysDPIFactor(const Call& call);
+  static void GetDPIAwareSupport(const Call& call);
+  // Converts any argument to a number, truncated and saturated to 32 bits; 0,
+  // negative numbers and not-a-number leave the reference as it is.
+  static void SetDefaultDPI(const Call& call);
+  // Return "", from a cache.
+  static void GetRoamingAppDataPath(const Call& call);
+  static void GetAppDataLocalLowPath(const Call& call);
+  static void ExportGetInstallChannel(const Call& call);
+  // Returns 0 for a string, otherwise undefined.
+  static void ExportGetDriveType(const Call& call);
+
+  static void GetPublicUserDataPath(const Call& call) { set_result(call, ""); }
+  static void ExportGetDesktopPath(const Call& call) { set_result(call, ""); }
+  static void ExportGetDocumentPath(const Call& call) { set_result(call, ""); }
+  static void GetCommonFilesPath(const Call& call) { set_result(call, ""); }
+  static void GetDefaultBrowserPath(const Call& call) { set_result(call, ""); }
+  static void GetLongPathName(const Call& call) { set_result(call, ""); }
+  static void GetCpuID(const Call& call) { set_result(call, ""); }
+  static void GetDmideCode(const Call& call) { set_result(call, ""); }
+  static void Utf8StringDecodeFromBinary(const Call& call) {
+    set_result(call, "");
+  }
+  static void Utf8StringEncodeToBinary(const Call& call) {
+    Utf8StringDecodeFromBinary(call);
+  }
+  static void GetFileVersion(const Call& call) { set_result(call, "1.0.0.1"); }
+  static void GetCpuProcessors(const Call& call) { set_result(call, 1); }
+  static void GetCpuFrequency(const Call& call) { set_result(call, 0); }
+  static void DiskIdleInfo(const Call& call) { set_result(call, 0); }
+  static void WriteINI(const Call& call) { set_result(call, 0); }
+  static void IsWin7(const Call& call) { set_result(call, 0); }
+  // Quirk: true, where every other question returns false.
+  static void IsOpenLumo(const Call& call) { set_result(call, true); }
+  static void IsDwmCompositionEnabled(const Call& call) {
+    set_result(call, false);
+  }
+  static void IsDropShadowEnabled(const Call& call) { set_result(call, false); }
+  static void NotifyBrowserConfigChanged(const Call& call) {
+    set_result(call, false);
+  }
+  static void GetCpuList(const Call&) {}
+  static void GetAppList(const Call&) {}
+  static void IsSSD(const Call&) {}
+  static void GetHardDiskSpaceList(const Call&) {}
+  static void GetMemoryInfo(const Call&) {}
+  static void IsFullScreen(const Call&) {}
+  static void GetIEProxy(const Call&) {}
+  static void GetTickCount(const Call&) {}
+  static void ISColdStartUp(const Call&) {}
+  static void GetWndHandleFromPonit(const Call&) {}
+  static void GetParentWnd(const Call&) {}
 
   // --- Network (korvane_helper_network.cc)
 
-  // Answers 1 when the host of a URL (any value, as text, cut after 8,181
+  // Returns 1 when the host of a URL (any value, as a string, cut after 8,181
   // bytes) resolves, otherwise 0. Blocks as long as the resolver takes.
-  static void IsPingHostValid(const Arguments& arguments);
-  // Answer 0.
-  static void GetCurInternetState(const Arguments& arguments);
-  static void AsyncGetNetAdapterInfo(const Arguments& arguments);
-  // Answers undefined.
-  static void StartListenLocalNet(const Arguments& arguments);
+  static void IsPingHostValid(const Call& call);
+
+  static void GetCurInternetState(const Call& call) { set_result(call, 0); }
+  static void AsyncGetNetAdapterInfo(const Call& call) { set_result(call, 0); }
+  static void StartListenLocalNet(const Call&) {}
 
   // --- Clipboard (korvane_helper_clipboard.cc)
 
-  // Calls a function once, at once, with 1 and an array of links, and keeps it
-  // for the life of the process. Answers 0.
-  static void AttachClipBoard(const Arguments& arguments);
+  // Calls a function once, before it returns, with 1 and an array of links, and
+  // keeps it for the life of the process. Returns 0.
+  static void AttachClipBoard(const Call& call);
 
   // --- Windows (korvane_helper_window.cc)
 
-  static void TsSetWindowPos(const Arguments& arguments);
-  static void TsShowWindow(const Arguments& arguments);
-  static void TsIsWindowHandle(const Arguments& arguments);
-  static void TsBringWindowToTop(const Arguments& arguments);
-  static void TsEnableWindow(const Arguments& arguments);
-  static void TsGetWindowRect(const Arguments& arguments);
-  static void TsMoveWindow(const Arguments& arguments);
-  static void GetDisplayWindowRect(const Arguments& arguments);
-  static void GetCursorPosition(const Arguments& arguments);
-  static void TsGetKeyState(const Arguments& arguments);
-  static void IsInFullScreen(const Arguments& arguments);
-  static void GetWindowClassName(const Arguments& arguments);
+  static void TsSetWindowPos(const Call& call);
+  static void TsShowWindow(const Call& call);
+  static void TsIsWindowHandle(const Call& call);
+  static void TsBringWindowToTop(const Call& call);
+  static void TsEnableWindow(const Call& call);
+  static void TsGetWindowRect(const Call& call);
+  static void TsMoveWindow(const Call& call);
+  static void GetDisplayWindowRect(const Call& call);
+  static void GetCursorPosition(const Call& call);
+  static void TsGetKeyState(const Call& call);
+
+  // Quirk: asks no display, unlike XWindow::IsInFullScreen.
+  static void IsInFullScreen(const Call& call) { set_result(call, false); }
+  static void GetWindowClassName(const Call& call) { set_result(call, ""); }
 
   // --- Identity (korvane_helper_identity.cc)
 
-  // Answers the network adapter's address and "007V", see LinuxShell; writes
+  // Returns the network adapter's address and "007V", see LinuxShell; writes
   // trace lines to standard output.
-  static void GetPeerID(const Arguments& arguments);
-  // (text, text): the collation of the second against the first, each read as
-  // the bytes of its 16-bit units up to the first zero byte, so that only the
-  // first character below U+0100 takes part. 0 for other arguments.
-  static void ExportCompareStr(const Arguments& arguments);
-  // Answers 0 for a text (cut after 2,082 bytes), otherwise undefined.
-  static void ExportGetTaskTypeFromUrl(const Arguments& arguments);
+  static void GetPeerID(const Call& call);
+  // (string, string): the collation of the second against the first, each read
+  // as the bytes of its UTF-16 up to the first zero byte, so that only the
+  // first character below U+0100 counts. 0 for other arguments.
+  static void ExportCompareStr(const Call& call);
+  // Returns 0 for a string (cut after 2,082 bytes), otherwise undefined.
+  static void ExportGetTaskTypeFromUrl(const Call& call);
 
   // --- Completions (korvane_helper_completion.cc)
   //
   // For a platform worker that delivers results later, on the script thread and
-  // with a context entered.
-  // Each calls the holder's function once, then frees the holder; without a
-  // holder it does nothing. Each returns 0.
+  // with a context entered. Each calls the holder's function once, then frees
+  // the holder; without a holder it does nothing. Each returns 0.
 
   // Calls back with a boolean and an array of integers.
   static int OnIsSSD(std::int32_t request_id, bool success,
                      const std::vector<std::int32_t>& values,
                      CallbackHolder* holder);
-  // Calls back with a boolean (`success` not 0) and a number.
+  // Calls back with a boolean (whether `success` is not 0) and a number.
   static int OnGetDriveMediaType(std::int32_t success, std::int32_t media_type,
                                  CallbackHolder* holder);
   // Call back with an array of strings.
@@ -195,86 +201,85 @@ class KorvaneHelper {
 
   // --- Functions that do nothing on this platform
   //
-  // A script can call every name without testing for it first; these read
-  // nothing and answer undefined.
+  // A script can call every name without testing for it first.
 
-  static void PrintEtwLog(const Arguments&) {}
-  static void PrintAdvancedEtwLog(const Arguments&) {}
-  static void AttachShadowWindow(const Arguments&) {}
-  static void DrawShadowWindow(const Arguments&) {}
-  static void DestroyShadowWindow(const Arguments&) {}
-  static void SetShadowWindowResizable(const Arguments&) {}
-  static void InitGDIPlus(const Arguments&) {}
-  static void UninitGDIPlus(const Arguments&) {}
-  static void TsGetWindowLong(const Arguments&) {}
-  static void TsSetWindowLong(const Arguments&) {}
-  static void TsModifyStyle(const Arguments&) {}
-  static void TsModifyStyleEx(const Arguments&) {}
-  static void TsSetWindowFocus(const Arguments&) {}
-  static void TsGetNextWindow(const Arguments&) {}
-  static void AllowSetForegroundWindow(const Arguments&) {}
-  static void SetForegroundWindow(const Arguments&) {}
-  static void TsSetDllDirectory(const Arguments&) {}
-  static void TsFindChildWindow(const Arguments&) {}
-  static void GetClipBoardText(const Arguments&) {}
-  static void QueryRegValue(const Arguments&) {}
-  static void ReadRegString(const Arguments&) {}
-  static void WriteRegValue(const Arguments&) {}
-  static void DeleteRegValue(const Arguments&) {}
-  static void DeleteRegKey(const Arguments&) {}
-  static void CreateRegKey(const Arguments&) {}
-  static void StopListenLocalNet(const Arguments&) {}
-  static void InitClipBoard(const Arguments&) {}
-  static void ReadINI(const Arguments&) {}
-  static void RefreshIcon(const Arguments&) {}
-  static void StartAutoUpdateWithUI(const Arguments&) {}
-  static void StartManualUpdateWithUI(const Arguments&) {}
-  static void StartUpdateWithUI(const Arguments&) {}
-  static void InitLiveUD(const Arguments&) {}
-  static void IsKorvaneOnUserFocus(const Arguments&) {}
-  static void MoveSuspenWindow(const Arguments&) {}
-  static void QkShellExecEx(const Arguments&) {}
-  static void CopyTextToClipBoard(const Arguments&) {}
-  static void EmptyClipBoard(const Arguments&) {}
-  static void EndKorvaneStartProcess(const Arguments&) {}
-  static void GetForegroundProcessName(const Arguments&) {}
-  static void ExportGetDriveInfo(const Arguments&) {}
-  static void ExportGetPartitionSpace(const Arguments&) {}
-  static void ExportGetFreePartitionSpace(const Arguments&) {}
-  static void ExportGetSystemTempPath(const Arguments&) {}
-  static void ExportIsKorvanePrivateUrl(const Arguments&) {}
-  static void ExportParseKorvanePrivateUrl(const Arguments&) {}
-  static void ExportMakeKorvanePrivateUrl(const Arguments&) {}
-  static void ExportParseFileNameFromP2spUrlPath(const Arguments&) {}
-  static void ExportParseUrl(const Arguments&) {}
-  static void ExportParseEd2kUrl(const Arguments&) {}
-  static void ExportParseMagnetUrl(const Arguments&) {}
-  static void ExportMakeUrl(const Arguments&) {}
-  static void GetOsVersion(const Arguments&) {}
-  static void TsIsWindowEnable(const Arguments&) {}
-  static void TssetScreenSaveActive(const Arguments&) {}
-  static void ExportExtractIcon2File(const Arguments&) {}
-  static void GetFreeTime(const Arguments&) {}
-  static void OpenURLByIEorDefault(const Arguments&) {}
-  static void OpenURLByDefault(const Arguments&) {}
-  static void DisableWindowAnimation(const Arguments&) {}
-  static void SetBugreportCustomInfo(const Arguments&) {}
-  static void SetBugreportShowMode(const Arguments&) {}
-  static void GetMediaInfo(const Arguments&) {}
-  static void CalculateFileCID(const Arguments&) {}
-  static void CalculateFileGCID(const Arguments&) {}
-  static void CalculateFileBCID(const Arguments&) {}
-  static void AttachVirtualDisk(const Arguments&) {}
-  static void DetachVirtualDisk(const Arguments&) {}
-  static void GetVirtualDiskPhysicalPath(const Arguments&) {}
-  static void TsIsIconic(const Arguments&) {}
-  static void TsIsZoomed(const Arguments&) {}
-  static void TsIsWindowVisible(const Arguments&) {}
-  static void GetDriveMediaType(const Arguments&) {}
-  static void IsSparseFile(const Arguments&) {}
-  static void IsSparseDriver(const Arguments&) {}
-  static void TrackEvent(const Arguments&) {}
-  static void ModifyStyleOrEx(const Arguments&) {}  // not bound
+  static void PrintEtwLog(const Call&) {}
+  static void PrintAdvancedEtwLog(const Call&) {}
+  static void AttachShadowWindow(const Call&) {}
+  static void DrawShadowWindow(const Call&) {}
+  static void DestroyShadowWindow(const Call&) {}
+  static void SetShadowWindowResizable(const Call&) {}
+  static void InitGDIPlus(const Call&) {}
+  static void UninitGDIPlus(const Call&) {}
+  static void TsGetWindowLong(const Call&) {}
+  static void TsSetWindowLong(const Call&) {}
+  static void TsModifyStyle(const Call&) {}
+  static void TsModifyStyleEx(const Call&) {}
+  static void TsSetWindowFocus(const Call&) {}
+  static void TsGetNextWindow(const Call&) {}
+  static void AllowSetForegroundWindow(const Call&) {}
+  static void SetForegroundWindow(const Call&) {}
+  static void TsSetDllDirectory(const Call&) {}
+  static void TsFindChildWindow(const Call&) {}
+  static void GetClipBoardText(const Call&) {}
+  static void QueryRegValue(const Call&) {}
+  static void ReadRegString(const Call&) {}
+  static void WriteRegValue(const Call&) {}
+  static void DeleteRegValue(const Call&) {}
+  static void DeleteRegKey(const Call&) {}
+  static void CreateRegKey(const Call&) {}
+  static void StopListenLocalNet(const Call&) {}
+  static void InitClipBoard(const Call&) {}
+  static void ReadINI(const Call&) {}
+  static void RefreshIcon(const Call&) {}
+  static void StartAutoUpdateWithUI(const Call&) {}
+  static void StartManualUpdateWithUI(const Call&) {}
+  static void StartUpdateWithUI(const Call&) {}
+  static void InitLiveUD(const Call&) {}
+  static void IsKorvaneOnUserFocus(const Call&) {}
+  static void MoveSuspenWindow(const Call&) {}
+  static void QkShellExecEx(const Call&) {}
+  static void CopyTextToClipBoard(const Call&) {}
+  static void EmptyClipBoard(const Call&) {}
+  static void EndKorvaneStartProcess(const Call&) {}
+  static void GetForegroundProcessName(const Call&) {}
+  static void ExportGetDriveInfo(const Call&) {}
+  static void ExportGetPartitionSpace(const Call&) {}
+  static void ExportGetFreePartitionSpace(const Call&) {}
+  static void ExportGetSystemTempPath(const Call&) {}
+  static void ExportIsKorvanePrivateUrl(const Call&) {}
+  static void ExportParseKorvanePrivateUrl(const Call&) {}
+  static void ExportMakeKorvanePrivateUrl(const Call&) {}
+  static void ExportParseFileNameFromP2spUrlPath(const Call&) {}
+  static void ExportParseUrl(const Call&) {}
+  static void ExportParseEd2kUrl(const Call&) {}
+  static void ExportParseMagnetUrl(const Call&) {}
+  static void ExportMakeUrl(const Call&) {}
+  static void GetOsVersion(const Call&) {}
+  static void TsIsWindowEnable(const Call&) {}
+  static void TssetScreenSaveActive(const Call&) {}
+  static void ExportExtractIcon2File(const Call&) {}
+  static void GetFreeTime(const Call&) {}
+  static void OpenURLByIEorDefault(const Call&) {}
+  static void OpenURLByDefault(const Call&) {}
+  static void DisableWindowAnimation(const Call&) {}
+  static void SetBugreportCustomInfo(const Call&) {}
+  static void SetBugreportShowMode(const Call&) {}
+  static void GetMediaInfo(const Call&) {}
+  static void CalculateFileCID(const Call&) {}
+  static void CalculateFileGCID(const Call&) {}
+  static void CalculateFileBCID(const Call&) {}
+  static void AttachVirtualDisk(const Call&) {}
+  static void DetachVirtualDisk(const Call&) {}
+  static void GetVirtualDiskPhysicalPath(const Call&) {}
+  static void TsIsIconic(const Call&) {}
+  static void TsIsZoomed(const Call&) {}
+  static void TsIsWindowVisible(const Call&) {}
+  static void GetDriveMediaType(const Call&) {}
+  static void IsSparseFile(const Call&) {}
+  static void IsSparseDriver(const Call&) {}
+  static void TrackEvent(const Call&) {}
+  static void ModifyStyleOrEx(const Call&) {}  // not bound
 };
 
 #endif  // KORVANE_SCRIPT_KORVANE_HELPER_H_

@@ -1,4 +1,3 @@
-// Who this machine is, and two small services beside it.
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -13,7 +12,7 @@ constexpr char kPeerIdSuffix[] = "007V";
 constexpr std::size_t kUrlCapacity = 2083;
 
 void trace_peer_id(const std::string& peer_id) {
-  // Host logs are searched for this very line.
+  // Programs search the host's log for this very line.
   std::printf("%u %s %d %s ", static_cast<unsigned>(syscall(SYS_gettid)),
               "src/korvane_helper", 1278, "GetPeerID");
   std::printf("%s\r\n", peer_id.c_str());
@@ -22,26 +21,26 @@ void trace_peer_id(const std::string& peer_id) {
 
 }  // namespace
 
-void KorvaneHelper::GetPeerID(const Arguments& arguments) {
+void KorvaneHelper::GetPeerID(const Call& call) {
   const std::string peer_id = LinuxShell::GetMacAddrId() + kPeerIdSuffix;
   trace_peer_id(peer_id);
-  answer_text(arguments, peer_id.c_str());
+  set_result(call, peer_id.c_str());
 }
 
-void KorvaneHelper::ExportCompareStr(const Arguments& arguments) {
-  answer_number(arguments, 0);
-  if (!accepts_exactly<Kind::kText, Kind::kText>(arguments)) return;
-  v8::Isolate* isolate = arguments.GetIsolate();
-  const runtime_port::Utf16Text first(isolate, arguments[0]);
-  const runtime_port::Utf16Text second(isolate, arguments[1]);
-  if (first.units() == nullptr || second.units() == nullptr) return;
-  answer_number(arguments, LinuxShell::CompareStr(
-                               reinterpret_cast<const char*>(first.units()),
-                               reinterpret_cast<const char*>(second.units())));
+void KorvaneHelper::ExportCompareStr(const Call& call) {
+  set_result(call, 0);
+  if (!accepts_exactly<kString, kString>(call)) return;
+  const runtime_port::Utf16String first(call.GetIsolate(), call[0]);
+  const runtime_port::Utf16String second(call.GetIsolate(), call[1]);
+  if (first.data() == nullptr || second.data() == nullptr) return;
+  // Quirk: UTF-16 is read as bytes, up to the first zero byte.
+  set_result(call, LinuxShell::CompareStr(
+                       reinterpret_cast<const char*>(first.data()),
+                       reinterpret_cast<const char*>(second.data())));
 }
 
-void KorvaneHelper::ExportGetTaskTypeFromUrl(const Arguments& arguments) {
-  if (!accepts<Kind::kText>(arguments)) return;
-  const Utf8Argument<kUrlCapacity> url(arguments, 0);
-  answer_number(arguments, LinuxShell::GetTaskTypeFromUrl(url.c_str()));
+void KorvaneHelper::ExportGetTaskTypeFromUrl(const Call& call) {
+  if (!accepts<kString>(call)) return;
+  const Utf8Argument<kUrlCapacity> url(call, 0);
+  set_result(call, LinuxShell::GetTaskTypeFromUrl(url.c_str()));
 }

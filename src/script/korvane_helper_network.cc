@@ -1,4 +1,3 @@
-// Whether a host can be reached, as far as the name resolver knows.
 #include <netdb.h>
 
 #include <string_view>
@@ -9,8 +8,8 @@ namespace {
 
 constexpr std::size_t kUrlCapacity = 8182;
 
-// Removes one scheme from the start, case-sensitively. A scheme that stands
-// anywhere else stops the search for the next one and stays.
+// Removes one scheme from the start, case-sensitively. Quirk: a scheme found
+// anywhere else stops the search for the next one and is not removed.
 std::string_view without_scheme(std::string_view url) {
   for (const std::string_view scheme : {"http://", "https://", "ftp://"}) {
     const std::size_t position = url.find(scheme);
@@ -20,7 +19,7 @@ std::string_view without_scheme(std::string_view url) {
   return url;
 }
 
-// Cuts the path off: at the first slash, or where there is none, at the first
+// Cuts the path off: at the first slash, or without one, at the first
 // backslash.
 std::string_view without_path(std::string_view url) {
   const std::size_t slash = url.find('/');
@@ -30,19 +29,9 @@ std::string_view without_path(std::string_view url) {
 
 }  // namespace
 
-void KorvaneHelper::IsPingHostValid(const Arguments& arguments) {
-  answer_number(arguments, 0);
-  const Utf8Argument<kUrlCapacity> url(arguments, 0);
+void KorvaneHelper::IsPingHostValid(const Call& call) {
+  set_result(call, 0);
+  const Utf8Argument<kUrlCapacity> url(call, 0);
   const std::string host(without_path(without_scheme(url.c_str())));
-  if (gethostbyname(host.c_str()) != nullptr) answer_number(arguments, 1);
+  if (gethostbyname(host.c_str()) != nullptr) set_result(call, 1);
 }
-
-void KorvaneHelper::GetCurInternetState(const Arguments& arguments) {
-  answer_integer(arguments, 0);
-}
-
-void KorvaneHelper::AsyncGetNetAdapterInfo(const Arguments& arguments) {
-  answer_integer(arguments, 0);
-}
-
-void KorvaneHelper::StartListenLocalNet(const Arguments&) {}

@@ -12,42 +12,40 @@ namespace runtime_port {
 static_assert(NODE_MODULE_VERSION == KORVANE_RUNTIME_INTERFACE,
               "these are the headers of another runtime");
 
-// Whether the runtime can load the module again, and in threads of their own.
-inline constexpr bool kHasWorkers = NODE_MODULE_VERSION > 57;
+// What the module's record names to load the module again, and in threads of
+// their own, where the runtime can.
+constexpr node::addon_context_register_func for_contexts(
+    node::addon_context_register_func init) {
+  return NODE_MODULE_VERSION > 57 ? init : nullptr;
+}
 
-// The text of any value as 16-bit units with a terminating zero. Converting
-// a value that is not a string may run script code.
-class Utf16Text {
+// A string as UTF-16 with a terminating zero.
+class Utf16String {
  public:
 #if NODE_MODULE_VERSION > 57
-  Utf16Text(v8::Isolate* isolate, v8::Local<v8::Value> value)
-      : value_(isolate, value) {}
+  Utf16String(v8::Isolate* isolate, v8::Local<v8::Value> string)
+      : value_(isolate, string) {}
 #else
-  Utf16Text(v8::Isolate*, v8::Local<v8::Value> value) : value_(value) {}
+  Utf16String(v8::Isolate*, v8::Local<v8::Value> string) : value_(string) {}
 #endif
-  // Null when the value has no text.
-  const std::uint16_t* units() const { return *value_; }
-  // Without the terminating zero.
-  std::size_t length() const {
-    return static_cast<std::size_t>(value_.length());
-  }
+  // Null when memory is short.
+  const std::uint16_t* data() const { return *value_; }
 
  private:
   v8::String::Value value_;
 };
 
-// Writes at most `limit` bytes of UTF-8. A unit that does not fit is left out
-// whole; of a surrogate pair that does not, the first may be written alone,
-// though not from interface 137 on.
-inline void write_utf8(v8::Isolate* isolate, v8::Local<v8::String> text,
+// Writes at most `limit` bytes of UTF-8. A character that does not fit is left
+// out whole; but before Node.js ABI 137 half a surrogate pair may be written.
+inline void write_utf8(v8::Isolate* isolate, v8::Local<v8::String> string,
                        char* out, int limit) {
 #if NODE_MODULE_VERSION > 127
-  text->WriteUtf8V2(isolate, out, static_cast<std::size_t>(limit));
+  string->WriteUtf8V2(isolate, out, static_cast<std::size_t>(limit));
 #elif NODE_MODULE_VERSION > 57
-  text->WriteUtf8(isolate, out, limit);
+  string->WriteUtf8(isolate, out, limit);
 #else
   static_cast<void>(isolate);
-  text->WriteUtf8(out, limit);
+  string->WriteUtf8(out, limit);
 #endif
 }
 

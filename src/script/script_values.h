@@ -1,13 +1,15 @@
-// How a script function reads its arguments and gives its answer.
+// How a script function reads its arguments and sets its result.
 //
 // Three rules hold for every function of the module:
 //
 // 1. Arguments are tested before any is converted: the count first, then the
-//    types in index order. A failed test gives the function's fallback answer.
-// 2. An argument beyond the count reads as undefined.
-// 3. Nothing throws into script. Text that cannot be read is empty, a number
-//    that cannot be read is not-a-number, an answer that cannot be made is
-//    undefined. Want of memory ends a function with the answer given so far.
+//    types in index order. When a test fails, the function returns its
+//    fallback.
+// 2. An argument beyond the count is undefined.
+// 3. Nothing throws into script. A string that cannot be read is empty, a
+// number
+//    that cannot be read is not-a-number, a result that cannot be made is
+//    undefined. Out of memory, a function ends with the result set so far.
 #ifndef KORVANE_SCRIPT_SCRIPT_VALUES_H_
 #define KORVANE_SCRIPT_SCRIPT_VALUES_H_
 
@@ -18,21 +20,22 @@
 
 #include "script/runtime_port.h"
 
-using Arguments = v8::FunctionCallbackInfo<v8::Value>;
+// A call from script: its arguments, and the result that it returns.
+using Call = v8::FunctionCallbackInfo<v8::Value>;
 
-// A function that asks for memory, as the runtime may call it: no exception may
-// reach the runtime, and nothing but want of memory throws.
+// A function that allocates, as the runtime may call it: no exception may reach
+// the runtime, and nothing but a failed allocation throws.
 template <v8::FunctionCallback function>
-void guarded(const Arguments& arguments) noexcept {
+void guarded(const Call& call) noexcept {
   try {
-    function(arguments);
+    function(call);
   } catch (...) {
     return;
   }
 }
 
-// Stands around code that may run script code (conversions of objects, calls)
-// and drops what it throws. A script that is being terminated stays so.
+// Drops what script code throws while the guard lives: conversions of objects,
+// setters and calls run such code. A script that is being terminated stays so.
 class ScriptGuard {
  public:
   explicit ScriptGuard(v8::Isolate* isolate);
@@ -47,115 +50,103 @@ class ScriptGuard {
 
 // --- Testing arguments
 
-enum class Kind { kAny, kText, kNumber, kFunction };
+enum Type { kAny, kString, kNumber, kFunction };
 
-// Whether `value` is of `kind`. Nothing is coerced: a string object is no text.
-template <Kind kind>
-bool is_a(v8::Local<v8::Value> value) {
-  if constexpr (kind == Kind::kText) return value->IsString();
-  if constexpr (kind == Kind::kNumber) return value->IsNumber();
-  if constexpr (kind == Kind::kFunction) return value->IsFunction();
+// Nothing is coerced: a string object is no string.
+inline bool is_a(Type type, v8::Local<v8::Value> value) {
+  if (type == kString) return value->IsString();
+  if (type == kNumber) return value->IsNumber();
+  if (type == kFunction) return value->IsFunction();
   return true;
 }
 
-// Whether the call has at least these arguments, of these kinds.
-template <Kind... kinds>
-bool accepts(const Arguments& arguments) {
+// Whether the call has at least these arguments, of these types.
+template <Type... types>
+bool accepts(const Call& call) {
   int index = 0;
-  return arguments.Length() >= static_cast<int>(sizeof...(kinds)) &&
-         (is_a<kinds>(arguments[index++]) && ...);
+  return call.Length() >= static_cast<int>(sizeof...(types)) &&
+         (is_a(types, call[index++]) && ...);
 }
 
-// Whether the call has exactly these arguments, of these kinds.
-template <Kind... kinds>
-bool accepts_exactly(const Arguments& arguments) {
-  return arguments.Length() == static_cast<int>(sizeof...(kinds)) &&
-         accepts<kinds...>(arguments);
+// Whether the call has exactly these arguments, of these types.
+template <Type... types>
+bool accepts_exactly(const Call& call) {
+  return call.Length() == static_cast<int>(sizeof...(types)) &&
+         accepts<types...>(call);
 }
 
 // --- Reading arguments
 
-// Any argument as script text; empty when it has none.
-v8::Local<v8::String> read_text(const Arguments& arguments, int index);
+// Any argument as a string, by conversion.
+v8::Local<v8::String> read_string(const Call& call, int index);
 
-// Fills `out` with zeros, then with the UTF-8 text of any argument, cut
-// silently after capacity - 1 bytes.
-void read_utf8(const Arguments& arguments, int index, char* out,
-               std::size_t capacity);
-
-// The same as an object: text of at most capacity - 1 bytes, terminated.
+// Any argument as UTF-8, by conversion: at most capacity - 1 bytes, the rest is
+// cut off.
 template <std::size_t capacity>
 class Utf8Argument {
  public:
-  Utf8Argument(const Arguments& arguments, int index) {
-    read_utf8(arguments, index, bytes_.data(), capacity);
+  Utf8Argument(const Call& call, int index) {
+    runtime_port::write_utf8(call.GetIsolate(), read_string(call, index),
+                             bytes_.data(), static_cast<int>(capacity - 1));
   }
   const char* c_str() const { return bytes_.data(); }
 
  private:
-  std::array<char, capacity> bytes_;
+  std::array<char, capacity> bytes_{};
 };
 
-// Converts the arguments 0 to count - 1 to text, in this order, and lets them
-// go: what functions do that answer the same for every text. A script can
-// watch it where the arguments may be objects.
-void read_and_drop_texts(const Arguments& arguments, int count);
+// Any argument as a number, by conversion.
+double read_number(const Call& call, int index);
 
-// Any argument as a number; not-a-number when it has none.
-double read_number(const Arguments& arguments, int index);
+// An argument as 32 bits: truncated toward zero and wrapped modulo 2^32; 0 for
+// not-a-number and the infinities, and for what is no number.
+std::int32_t read_int32(const Call& call, int index);
+std::uint32_t read_uint32(const Call& call, int index);
 
-// An argument that was tested to be a number, as 32 bits: truncated toward zero
-// and wrapped modulo 2^32; 0 for not-a-number and the infinities.
-std::int32_t read_int32(const Arguments& arguments, int index);
-std::uint32_t read_uint32(const Arguments& arguments, int index);
-
-// Whether an argument is the boolean true; nothing is coerced.
-inline bool is_true(const Arguments& arguments, int index) {
-  return arguments[index]->IsTrue();
+// What functions do that return the same for all strings: returns accepts(),
+// and when it is true converts the arguments that may be strings, in order. A
+// script can watch that where they may be objects.
+template <Type... types>
+bool accepts_and_reads(const Call& call) {
+  if (!accepts<types...>(call)) return false;
+  int index = 0;
+  for (const Type type : {types...}) {
+    if (type == kAny || type == kString) {
+      runtime_port::Utf16String(call.GetIsolate(), read_string(call, index));
+    }
+    ++index;
+  }
+  return true;
 }
 
 // --- Making values
 
-// `utf8` up to its first zero byte; undefined when the text cannot be made.
-v8::Local<v8::Value> make_text(v8::Isolate* isolate, const char* utf8);
+// UTF-8 up to the first zero byte; undefined when it cannot be made.
+v8::Local<v8::Value> make_string(v8::Isolate* isolate, const char* utf8);
 
-// 16-bit units up to the first zero unit; undefined when it cannot be made.
-v8::Local<v8::Value> make_text(v8::Isolate* isolate,
-                               const std::uint16_t* units);
+// UTF-16 up to the first zero code unit; undefined when it cannot be made.
+v8::Local<v8::Value> make_string(v8::Isolate* isolate,
+                                 const std::uint16_t* utf16);
 
-// Sets one element of a list, or one property of an object.
-void store(v8::Isolate* isolate, v8::Local<v8::Array> list, std::uint32_t index,
-           v8::Local<v8::Value> value);
-void store(v8::Isolate* isolate, v8::Local<v8::Object> object, const char* key,
-           double value);
+void set_element(v8::Isolate* isolate, v8::Local<v8::Array> list,
+                 std::uint32_t index, v8::Local<v8::Value> value);
 
-// --- Answering
+// --- Setting the result; without one, a call returns undefined
 
-inline void answer_integer(const Arguments& arguments, std::int32_t value) {
-  arguments.GetReturnValue().Set(value);
+inline void set_result(const Call& call, bool value) {
+  call.GetReturnValue().Set(value);
 }
 
-inline void answer_number(const Arguments& arguments, double value) {
-  arguments.GetReturnValue().Set(value);
+inline void set_result(const Call& call, std::int32_t value) {
+  call.GetReturnValue().Set(value);
 }
 
-// A whole number is the same value to a script, and made without a call.
-inline void answer_number(const Arguments& arguments, std::int32_t value) {
-  arguments.GetReturnValue().Set(value);
+inline void set_result(const Call& call, double value) {
+  call.GetReturnValue().Set(value);
 }
 
-inline void answer_boolean(const Arguments& arguments, bool value) {
-  arguments.GetReturnValue().Set(value);
-}
-
-inline void answer(const Arguments& arguments, v8::Local<v8::Value> value) {
-  arguments.GetReturnValue().Set(value);
-}
-
-inline void answer_text(const Arguments& arguments, const char* utf8) {
-  // The empty text is at hand.
-  if (*utf8 == '\0') return arguments.GetReturnValue().SetEmptyString();
-  answer(arguments, make_text(arguments.GetIsolate(), utf8));
+inline void set_result(const Call& call, const char* utf8) {
+  call.GetReturnValue().Set(make_string(call.GetIsolate(), utf8));
 }
 
 struct NumberProperty {
@@ -163,8 +154,8 @@ struct NumberProperty {
   std::int32_t value;
 };
 
-// Answers a new object with these properties, in this order.
-void answer_object(const Arguments& arguments,
-                   std::initializer_list<NumberProperty> properties);
+// An object with these properties, in this order.
+void set_result(const Call& call,
+                std::initializer_list<NumberProperty> properties);
 
 #endif  // KORVANE_SCRIPT_SCRIPT_VALUES_H_

@@ -28,44 +28,41 @@ std::vector<Value> read_list(const v8::Local<v8::Value>& list) {
 
 // "none" is no holder, "no isolate" one that lacks it; anything that is no
 // function makes a holder without one.
-CallbackHolder* holder(const Arguments& arguments) {
-  const v8::Local<v8::Value> last = arguments[arguments.Length() - 1];
-  const std::string kind =
-      Utf8Argument<16>(arguments, arguments.Length() - 1).c_str();
+CallbackHolder* holder(const Call& call) {
+  const v8::Local<v8::Value> last = call[call.Length() - 1];
+  const std::string kind = Utf8Argument<16>(call, call.Length() - 1).c_str();
   if (kind == "none") return nullptr;
-  return new CallbackHolder(
-      kind == "no isolate" ? nullptr : arguments.GetIsolate(), last);
+  return new CallbackHolder(kind == "no isolate" ? nullptr : call.GetIsolate(),
+                            last);
 }
 
 // onIsSSD(success, values, callback)
-void on_is_ssd(const Arguments& arguments) {
-  answer_integer(arguments,
-                 KorvaneHelper::OnIsSSD(7, arguments[0]->IsTrue(),
-                                        read_list<std::int32_t>(arguments[1]),
-                                        holder(arguments)));
+void on_is_ssd(const Call& call) {
+  set_result(call, KorvaneHelper::OnIsSSD(7, call[0]->IsTrue(),
+                                          read_list<std::int32_t>(call[1]),
+                                          holder(call)));
 }
 
 // onGetDriveMediaType(success, type, callback)
-void on_get_drive_media_type(const Arguments& arguments) {
-  answer_integer(arguments, KorvaneHelper::OnGetDriveMediaType(
-                                read_int32(arguments, 0),
-                                read_int32(arguments, 1), holder(arguments)));
+void on_get_drive_media_type(const Call& call) {
+  set_result(call, KorvaneHelper::OnGetDriveMediaType(
+                       read_int32(call, 0), read_int32(call, 1), holder(call)));
 }
 
 // onGetCpuList(names, callback), onGetAppList: a name is a list of wide units.
 template <auto kFunction>
-void on_names(const Arguments& arguments) {
-  answer_integer(arguments, kFunction(7, read_list<std::wstring>(arguments[0]),
-                                      holder(arguments)));
+void on_names(const Call& call) {
+  set_result(call,
+             kFunction(7, read_list<std::wstring>(call[0]), holder(call)));
 }
 
-void query_file_exists(const Arguments& arguments) {
-  KorvaneHelper::ExportQueryFileExists(arguments);
+void query_file_exists(const Call& call) {
+  KorvaneHelper::ExportQueryFileExists(call);
 }
 
 // What was allocated beside the script engine's own heap.
-void bytes_in_use(const Arguments& arguments) {
-  arguments.GetReturnValue().Set(static_cast<double>(mallinfo2().uordblks));
+void bytes_in_use(const Call& call) {
+  call.GetReturnValue().Set(static_cast<double>(mallinfo2().uordblks));
 }
 
 void register_functions(v8::Local<v8::Object> exports) {
