@@ -6,9 +6,9 @@ std::atomic<int> DPIInterface::s_default_dpi = 96;
 
 double DPIInterface::GetMonitorDPIFactor() {
   constexpr double kMillimetresPerInch = 25.4;
-  Display* display = open_display();
+  // Quirk: the connection stays open.
+  Display* const display = open_display().release();
   if (display == nullptr) return 1.0;
-  // Left open (kept: hosts count on it).
   const int screen = DefaultScreen(display);
   const int pixels = DisplayWidth(display, screen);
   const int millimetres = DisplayWidthMM(display, screen);

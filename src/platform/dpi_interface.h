@@ -6,26 +6,26 @@
 
 class DPIInterface {
  public:
-  // The default screen's dots per inch, across, divided by the reference DPI,
+  // The default screen's horizontal dots per inch divided by the reference DPI,
   // truncated to two decimal places: 1.33 for 128 DPI. 1.0 without a display
   // and for a screen without a physical size.
   //
-  // The display connection that a call opens stays open until the process ends.
+  // Quirk: each call leaves its display connection open until the process ends.
   // After some 250 calls the server refuses every new client of every program
-  // ("Maximum number of clients"): the factor is 1.0 and every operation of
-  // XWindow answers as without a display. Ask once and keep the answer.
+  // ("Maximum number of clients"): the factor is 1.0, and XWindow behaves as
+  // without a display. Call it once and keep the result.
   static double GetMonitorDPIFactor();
   // The same as GetMonitorDPIFactor.
   static double GetSysDPIFactor();
 
   static bool GetDPIAwareSupport();
 
-  // Sets the reference DPI, 96 at first, for the whole process; 0 and negative
-  // values are ignored.
+  // Sets the reference DPI, by default 96, for the whole process; 0 and
+  // negative values are ignored.
   static void SetDefaultDPI(int dpi);
 
  private:
-  // Script threads share it where a runtime has several.
+  // Shared by the script threads of runtimes that have several.
   static std::atomic<int> s_default_dpi;
 };
 

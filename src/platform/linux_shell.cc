@@ -20,7 +20,7 @@
 
 namespace {
 
-// The place that messages name; logs of the product are searched for it.
+// Messages name this file; programs search the host's log for them.
 constexpr char kSource[] = "src/linux_shell";
 
 class Socket {
@@ -85,7 +85,7 @@ std::string LinuxShell::MacId::GetMacAddr() {
   }
   ifreq interface;
   if (!last_interface(socket, interface)) return {};
-  ifreq flags = interface;  // asked for, not looked at
+  ifreq flags = interface;  // not used; a failure counts
   if (!request(socket, SIOCGIFFLAGS, flags, 130)) return {};
   if (!request(socket, SIOCGIFHWADDR, interface, 162)) return {};
   std::array<unsigned char, 6> address;

@@ -1,19 +1,10 @@
 #include "platform/x_window.h"
 
 #include <array>
-#include <memory>
 
 #include "platform/open_display.h"
 
 namespace {
-
-struct CloseDisplay {
-  void operator()(Display* display) const { XCloseDisplay(display); }
-};
-
-using Connection = std::unique_ptr<Display, CloseDisplay>;
-
-Connection connect() { return Connection(open_display()); }
 
 int place(Display* display, Window window, int x, int y, int cx, int cy,
           std::uint32_t flags) {
@@ -27,9 +18,9 @@ int place(Display* display, Window window, int x, int y, int cx, int cy,
   return XMoveResizeWindow(display, window, x, y, width, height);
 }
 
-// Asks the window manager; the message reaches clients that watch the root
-// window's children, and no others (kept: no redirect bit in the mask).
-void ask_to_maximise(Display* display, Window window) {
+// Quirk: no redirect bit in the event mask, so the message reaches only clients
+// that watch the root window's children.
+void request_maximise(Display* display, Window window) {
   constexpr long kAdd = 1;
   XEvent event{};
   XClientMessageEvent& message = event.xclient;
@@ -46,12 +37,14 @@ void ask_to_maximise(Display* display, Window window) {
              SubstructureNotifyMask, &event);
 }
 
-// The window's position in its parent, taken as a point inside the window and
-// translated to the root (kept: callers rely on this position).
-bool translate_position(Display* display, Window window,
-                        const XWindowAttributes& attributes, int& x, int& y) {
+// Finds a window's size and position on the root window.
+// Quirk: translates its position in its parent as if it were a point inside the
+// window.
+bool find_window(Display* display, Window window, XWindowAttributes& attributes,
+                 int& x, int& y) {
   Window child = None;
-  return XTranslateCoordinates(display, window, attributes.root, attributes.x,
+  return XGetWindowAttributes(display, window, &attributes) != 0 &&
+         XTranslateCoordinates(display, window, attributes.root, attributes.x,
                                attributes.y, &x, &y, &child) != False;
 }
 
@@ -69,7 +62,7 @@ void query_pointer(Display* display, int& x, int& y) {
 
 int XWindow::SetWindowPos(std::uint64_t window, std::uint64_t insert_after,
                           int x, int y, int cx, int cy, std::uint32_t flags) {
-  const Connection display = connect();
+  const Connection display = open_display();
   if (!display) return 0;
   const int status = place(display.get(), window, x, y, cx, cy, flags);
   if ((flags & kShow) != 0) {
@@ -78,7 +71,7 @@ int XWindow::SetWindowPos(std::uint64_t window, std::uint64_t insert_after,
     XUnmapWindow(display.get(), window);
   }
   if (insert_after != 0) {
-    // Top first: `insert_after` ends up beneath (kept: callers rely on it).
+    // From top to bottom: `insert_after` ends up beneath.
     std::array<Window, 2> stack = {window, insert_after};
     XRestackWindows(display.get(), stack.data(), stack.size());
   }
@@ -87,7 +80,7 @@ int XWindow::SetWindowPos(std::uint64_t window, std::uint64_t insert_after,
 }
 
 bool XWindow::ShowWindow(std::uint64_t window, int command) {
-  const Connection display = connect();
+  const Connection display = open_display();
   if (!display) return false;
   bool done = false;
   if (command == kCommandHide) {
@@ -95,15 +88,14 @@ bool XWindow::ShowWindow(std::uint64_t window, int command) {
   } else if (command == kCommandShow) {
     done = XMapWindow(display.get(), window) == 1;
   } else if (command == kCommandMaximise) {
-    // Answers false although the message is sent (kept: callers rely on it).
-    ask_to_maximise(display.get(), window);
+    request_maximise(display.get(), window);
   }
   XFlush(display.get());
   return done;
 }
 
 bool XWindow::IsWindow(std::uint64_t window) {
-  const Connection display = connect();
+  const Connection display = open_display();
   if (!display || window == 0) return false;
   int count = 0;
   Atom* properties = XListProperties(display.get(), window, &count);
@@ -113,7 +105,7 @@ bool XWindow::IsWindow(std::uint64_t window) {
 }
 
 bool XWindow::BringWindowToTop(std::uint64_t window) {
-  const Connection display = connect();
+  const Connection display = open_display();
   if (!display) return false;
   const int status = XRaiseWindow(display.get(), window);
   XFlush(display.get());
@@ -121,22 +113,17 @@ bool XWindow::BringWindowToTop(std::uint64_t window) {
 }
 
 bool XWindow::EnableWindow(std::uint64_t, bool) {
-  connect();
+  open_display();
   return false;
 }
 
 bool XWindow::GetWindowRect(std::uint64_t window, int& left, int& top,
                             int& right, int& bottom) {
-  const Connection display = connect();
+  const Connection display = open_display();
   if (!display || window == 0) return false;
   XWindowAttributes attributes{};
-  if (XGetWindowAttributes(display.get(), window, &attributes) == 0) {
-    return false;
-  }
-  if (!translate_position(display.get(), window, attributes, left, top)) {
-    return false;
-  }
-  // The size, not the edges (kept: callers rely on it).
+  if (!find_window(display.get(), window, attributes, left, top)) return false;
+  // Quirk: the size, not the edges.
   right = attributes.width;
   bottom = attributes.height;
   return true;
@@ -144,7 +131,7 @@ bool XWindow::GetWindowRect(std::uint64_t window, int& left, int& top,
 
 bool XWindow::MoveWindow(std::uint64_t window, int x, int y, int width,
                          int height) {
-  const Connection display = connect();
+  const Connection display = open_display();
   if (!display) return false;
   const int status = XMoveResizeWindow(display.get(), window, x, y,
                                        static_cast<unsigned>(width),
@@ -154,21 +141,16 @@ bool XWindow::MoveWindow(std::uint64_t window, int x, int y, int width,
 }
 
 bool XWindow::IsInFullScreen() {
-  const Connection display = connect();
+  const Connection display = open_display();
   if (!display) return false;
   Window focus = None;
   int revert_to = 0;
   XGetInputFocus(display.get(), &focus, &revert_to);
   if (focus == None || focus == PointerRoot) return false;
   XWindowAttributes attributes{};
-  if (XGetWindowAttributes(display.get(), focus, &attributes) == 0) {
-    return false;
-  }
   int x = 0;
   int y = 0;
-  if (!translate_position(display.get(), focus, attributes, x, y)) {
-    return false;
-  }
+  if (!find_window(display.get(), focus, attributes, x, y)) return false;
   if (x > 0 || y > 0) return false;
   const int screen = XDefaultScreen(display.get());
   return attributes.width >= XDisplayWidth(display.get(), screen) &&
@@ -176,7 +158,7 @@ bool XWindow::IsInFullScreen() {
 }
 
 bool XWindow::GetDisplayWindowRect(int& width, int& height) {
-  const Connection display = connect();
+  const Connection display = open_display();
   if (!display) return false;
   XWindowAttributes attributes{};
   if (XGetWindowAttributes(display.get(), XDefaultRootWindow(display.get()),
@@ -190,23 +172,23 @@ bool XWindow::GetDisplayWindowRect(int& width, int& height) {
 }
 
 void XWindow::GetCursorPos(int& x, int& y) {
-  const Connection display = connect();
+  const Connection display = open_display();
   if (!display) return;
   query_pointer(display.get(), x, y);
 }
 
 int XWindow::GetKeyState(int key) {
-  constexpr int kAnswer = 1;  // kept: callers see every key as this
-  const Connection display = connect();
-  if (!display) return kAnswer;
+  constexpr int kPressed = 1;  // Quirk: whatever the state
+  const Connection display = open_display();
+  if (!display) return kPressed;
   if (key >= 1 && key <= 4) {
     int x = 0;
     int y = 0;
     query_pointer(display.get(), x, y);
-    return kAnswer;
+  } else {
+    XKeysymToKeycode(display.get(), static_cast<KeySym>(key));
+    std::array<char, 32> keys{};
+    XQueryKeymap(display.get(), keys.data());
   }
-  XKeysymToKeycode(display.get(), static_cast<KeySym>(key));
-  std::array<char, 32> keys{};
-  XQueryKeymap(display.get(), keys.data());
-  return kAnswer;
+  return kPressed;
 }

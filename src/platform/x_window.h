@@ -1,14 +1,13 @@
 // Operations on the windows of an X11 display.
 //
-// Windows are named by their X identifiers; all positions and sizes are pixels.
-// Each call opens its own connection to the display that the environment names
-// (DISPLAY, read on every call), waits until the server has taken its requests,
-// and closes it. Without a display an operation answers false (0) and writes
-// nothing.
+// A window is an X identifier; all positions and sizes are pixels. Each call
+// opens a connection to the display that DISPLAY names, waits until the server
+// has processed its requests, and closes it. Without a display an operation
+// returns false (0) and writes nothing.
 //
 // A request that the server refuses, such as one on a window that is gone, goes
-// to the process's X error handler, which is left as it is: the X library's own
-// ends the process. So does a connection that breaks in the middle of a call.
+// to the process's X error handler; the X library's own terminates the process.
+// So does a connection that breaks during a call.
 #ifndef KORVANE_PLATFORM_X_WINDOW_H_
 #define KORVANE_PLATFORM_X_WINDOW_H_
 
@@ -32,30 +31,28 @@ class XWindow {
   };
 
   // Moves, resizes, shows or hides a window and puts `insert_after` (0: none)
-  // directly beneath it. Answers the X library's status of the move or resize,
+  // directly beneath it. Returns the X library's status of the move or resize,
   // 0 when `flags` keep both.
   static int SetWindowPos(std::uint64_t window, std::uint64_t insert_after,
                           int x, int y, int cx, int cy, std::uint32_t flags);
 
-  // Whether a window was told to show or hide. Maximising asks the window
-  // manager and always answers false.
+  // Whether a window was shown or hidden. Quirk: maximising sends a request to
+  // the window manager and returns false.
   static bool ShowWindow(std::uint64_t window, int command);
 
-  // Whether a window has a property: one without any, and window 0, are none.
+  // Whether a window has a property. Quirk: without any it is no window.
   static bool IsWindow(std::uint64_t window);
 
   // Raises a window above its siblings.
   static bool BringWindowToTop(std::uint64_t window);
 
-  // Opens and closes the display, no more: X11 windows have no such state.
-  // Always false.
+  // Only opens and closes the display: X11 windows have no such state. False.
   static bool EnableWindow(std::uint64_t window, bool enable);
 
-  // `right` and `bottom` receive the window's width and height, without its
-  // border. `left` and `top` receive, in root coordinates, the point inside the
-  // window that has the numbers of its position in its parent: where the
-  // window is, plus that position once more. When only the position can be had,
-  // it is written and the answer is false. False for window 0.
+  // Quirk: `right` and `bottom` receive the width and height, without the
+  // border. Quirk: `left` and `top` receive the position on the root window
+  // plus the position in the parent once more. False for window 0. When only
+  // the position is known it is written, and the result is false.
   static bool GetWindowRect(std::uint64_t window, int& left, int& top,
                             int& right, int& bottom);
 
@@ -64,11 +61,11 @@ class XWindow {
                          int height);
 
   // Whether the window with the input focus covers the default screen: its
-  // position, as GetWindowRect tells it, is not right of or below the origin
+  // position, as GetWindowRect returns it, is not right of or below the origin,
   // and its size is at least the screen's.
   static bool IsInFullScreen();
 
-  // The size of the default screen. True also when the root window's attributes
+  // The size of the default screen. True even when the root window's attributes
   // name no screen; nothing is written then.
   static bool GetDisplayWindowRect(int& width, int& height);
 
@@ -76,8 +73,8 @@ class XWindow {
   // display.
   static void GetCursorPos(int& x, int& y);
 
-  // Asks the server for the state of a mouse button (1 to 4) or of a key (a
-  // keysym) and answers 1 whatever it is, without a display too.
+  // Queries the state of a mouse button (1 to 4) or of a key (a keysym).
+  // Quirk: returns 1 whatever it is, even without a display.
   static int GetKeyState(int key);
 };
 

@@ -146,6 +146,8 @@ inline void set_result(const Call& call, double value) {
 }
 
 inline void set_result(const Call& call, const char* utf8) {
+  // The runtime has an empty string ready: a fifth of the time.
+  if (*utf8 == '\0') return call.GetReturnValue().SetEmptyString();
   call.GetReturnValue().Set(make_string(call.GetIsolate(), utf8));
 }
 

@@ -59,7 +59,7 @@ test('a function with an empty body is said to do nothing, and no other',
   () => {
     const source = (name) => fs.readFileSync(
       path.join(__dirname, '../../src/script', name), 'utf8');
-    const empty = source('korvane_helper.h')
+    const empty = source('korvane_helper.h').split('do nothing')[1]
       .match(/\w+(?=\(const Call&\) \{\})/g);
     const rows = source('korvane_helper.cc').match(/\{"\w+", \w+\}/g)
       .map((row) => row.match(/\w+/g));
