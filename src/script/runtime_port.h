@@ -9,8 +9,10 @@
 
 namespace runtime_port {
 
-static_assert(NODE_MODULE_VERSION == KORVANE_RUNTIME_INTERFACE,
+static_assert(NODE_MAJOR_VERSION == KORVANE_RUNTIME,
               "these are the headers of another runtime");
+static_assert(KORVANE_RUNTIME != 8 || NODE_MODULE_VERSION == 57,
+              "the product's runtime has Node.js ABI 57");
 
 // What the module's record names to load the module again, and in threads of
 // their own, where the runtime can.
