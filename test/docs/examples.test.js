@@ -1,98 +1,69 @@
 'use strict';
 
-// The examples of the pages are run as they stand, and what they print is
-// compared with the page:
+// Runs the examples of pages and compares what they print with the block
+// behind, which has no language:
 //
-//   ```js, ```c, ```cpp   a program; the block without a language behind it is
-//                         what it prints
-//   ```c name.c, ...      a file for the commands that follow
-//   ```sh                 commands; with a block without a language behind it
-//                         they are run, and what they print ends with that
+//   ```js, ```c, ```cpp   a program; in a script `helper` is the module
+//   ```c name.c, ...      a file for the programs and commands that follow
+//   ```sh                 commands, where a block is behind: how it ends
+//   ```ts                 a signature, which is not run
 
+const assert = require('assert');
 const fs = require('fs');
 const path = require('path');
-const { execFileSync } = require('child_process');
-const { assert, test } = require('../script/harness');
-const { copy, copyModule, makeFolder } = require('../package/copies');
+const { test } = require('node:test');
+const { build, makeFolder, makePackage, node, run } =
+  require('../package/packages');
 
-const sources = path.join(__dirname, '../..');
-const warnings = ['-Wall', '-Wextra', '-Werror', '-o', 'program'];
+const project = makeFolder();
+const prefix = makeFolder();
+fs.mkdirSync(path.join(project, 'node_modules'));
+fs.symlinkSync(makePackage(), path.join(project, 'node_modules/korvane-helper'));
+run('cmake', ['--install', build, '--prefix', prefix]);
+const env = { ...process.env, CMAKE_GENERATOR: 'Ninja',
+  CMAKE_PREFIX_PATH: prefix, PKG_CONFIG_PATH: path.dirname(
+    run('find', [prefix, '-name', 'korvane_links.pc'])) };
 
-// A project beside an installed package, with the module also where a checkout
-// builds it.
-function makeProject() {
-  const project = makeFolder();
-  const installed = path.join(project, 'node_modules/korvane-helper');
-  copy(['index.js', 'package.json'], sources, installed);
-  copyModule(path.join(installed, `prebuilds/linux-${process.arch}`,
-    `interface-${process.versions.modules}`));
-  copyModule(path.join(project, 'build/release/module'));
-  return project;
-}
-
-// The link library, installed where pkg-config and CMake are told to look.
-function installLinks() {
-  const prefix = makeFolder();
-  execFileSync('cmake',
-    ['--install', process.env.KORVANE_BUILD, '--prefix', prefix]);
-  const file = execFileSync('find', [prefix, '-name', 'korvane_links.pc'],
-    { encoding: 'utf8' }).trim();
-  return { PKG_CONFIG_PATH: path.dirname(file), CMAKE_PREFIX_PATH: prefix };
-}
-
-const project = makeProject();
-const env = Object.assign({}, process.env, installLinks());
-const run = (command, ...args) => execFileSync(command, args,
-  { cwd: project, env, encoding: 'utf8' });
-const shell = (commands) => run('bash', '-euo', 'pipefail', '-c', commands);
-const write = (name, text) => (
-  fs.writeFileSync(path.join(project, name), text));
+const write = (name, text) => fs.writeFileSync(path.join(project, name), text);
+const shell = (commands) => run('bash', ['-euo', 'pipefail', '-c', commands],
+  { cwd: project, env });
+const compiled = (compiler, name) => (text) => {
+  write(name, text);
+  return shell(`${compiler} -Wall -Wextra -Werror ${name} -o program \
+    $(pkg-config --cflags --libs korvane_links) && ./program`);
+};
+const runners = {
+  js: (text) => {
+    const line = "const helper = require('korvane-helper');\n";
+    write('program.js', text.startsWith(line) ? text : line + text);
+    return run(node, ['program.js'], { cwd: project });
+  },
+  c: compiled('gcc -std=c99 -pedantic-errors', 'program.c'),
+  cpp: compiled('g++ -std=c++17', 'program.cc'),
+};
 
 // [{ language, name, text, line }] of the fenced blocks of a page.
 function blocks(page) {
-  const found = [];
-  const text = fs.readFileSync(path.join(sources, page), 'utf8');
-  const fence = /^```(\w*) ?(.*)\n([^]*?)^```$/gm;
-  for (let block; (block = fence.exec(text));) {
-    found.push({ language: block[1], name: block[2], text: block[3],
-      line: text.slice(0, block.index).split('\n').length });
-  }
-  return found;
+  const text = fs.readFileSync(path.join(__dirname, '../..', page), 'utf8');
+  const fence = /^```(\w*) ?([^\n]*)\n(.*?)^```$/gms;
+  return [...text.matchAll(fence)].map((found) => ({
+    language: found[1], name: found[2], text: found[3],
+    line: text.slice(0, found.index).split('\n').length,
+  }));
 }
-
-const compile = (compiler, standard) => (text, extension) => {
-  write(`program${extension}`, text);
-  shell(`${compiler} ${standard} ${warnings.join(' ')} program${extension} ` +
-    '$(pkg-config --cflags --libs korvane_links)');
-  return run('./program');
-};
-const programs = {
-  js: (text) => {
-    write('program.js', text);
-    return run(process.execPath, 'program.js');
-  },
-  c: (text) => compile('gcc', '-std=c99 -pedantic-errors')(text, '.c'),
-  cpp: (text) => compile('g++', '-std=c++17')(text, '.cc'),
-};
 
 function runExample({ language, name, text }, printed) {
   if (name) {
     write(name, text);
   } else if (language === 'sh') {
-    if (printed === undefined) return;
-    const said = shell(text);
-    assert.strictEqual(said.slice(-printed.length), printed);
-  } else if (programs[language]) {
-    assert.notStrictEqual(printed, undefined, 'no block says what it prints');
-    assert.strictEqual(programs[language](text), printed);
-  } else if (language) {
-    assert.fail(`nothing runs ${language}`);
+    if (printed) assert.strictEqual(shell(text).slice(-printed.length), printed);
+  } else if (language && language !== 'ts') {
+    assert.strictEqual(runners[language](text), printed);
   }
 }
 
 for (const page of process.argv.slice(2)) {
   const all = blocks(page);
-  assert(all.length > 0, `${page} has no examples`);
   all.forEach((block, index) => {
     const next = all[index + 1];
     test(`${page}:${block.line}`, () => (

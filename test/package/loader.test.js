@@ -1,157 +1,88 @@
 'use strict';
 
-// The loader in packages and checkouts that fit the runtime and that do not,
-// each in a process of its own.
+// What require('korvane-helper') says where no module can be loaded.
 
+const assert = require('assert');
 const fs = require('fs');
 const path = require('path');
-const { execFileSync } = require('child_process');
-const { assert, helper, test } = require('../script/harness');
-const { copyModule, edit, makeFolder, remove, replace, setMachine } =
-  require('./copies');
+const { test } = require('node:test');
+const { makeFolder, makePackage, node, run } = require('./packages');
 
-const another = process.env.KORVANE_OTHER_RUNTIME;
-const count = Object.keys(helper).length;
-const here = `linux-${process.arch}`;
-const otherArchitecture = process.arch === 'x64' ? 'arm64' : 'x64';
-const own = `interface-${process.versions.modules}`;
-const prebuilt = `prebuilds/${here}/${own}`;
+const { arch } = process;
+const made = makePackage();
+const builds = `prebuilds/linux-${arch}`;
+const [own] = fs.readdirSync(path.join(made, builds));
+const file = `./${builds}/${own}/KorvaneHelper.node`;
 
-const print = (code) => execFileSync(another, ['-p', code],
-  { encoding: 'utf8' }).trim();
-const anotherVersion = print('process.version');
-const anotherInterface = `interface-${print('process.versions.modules')}`;
+const noBuild = (abi) => (
+  `no build for ABI ${abi} in ./${builds}, which holds ${own}`);
+const asNode = (version, modules) => (
+  { versions: { node: version, modules } });
+const again = 'install the package again';
+const external = 'mark it external, for esbuild by ' +
+  '"--external:korvane-helper", for webpack by ' +
+  '"externals: { \'korvane-helper\': \'commonjs korvane-helper\' }"';
 
-// A folder with the loader and, in each of `places`, the module and the host
-// library; a place is a path, or [path, change] for an altered module.
-function install(...places) {
-  const folder = makeFolder();
-  fs.copyFileSync(path.join(__dirname, '../../index.js'),
-    path.join(folder, 'index.js'));
-  for (const place of places) {
-    const [name, change] = [].concat(place);
-    copyModule(path.join(folder, name), change);
-  }
-  return folder;
-}
+// What is done to the package and to the process; the problem; what helps.
+const rows = [
+  ['', { platform: 'darwin' }, `this is darwin on ${arch}`,
+    'use linux on x64 or arm64'],
+  ['', { arch: 'riscv64' }, 'this is linux on riscv64',
+    'use linux on x64 or arm64'],
+  ['', { versions: { electron: '30.0.1', modules: '123' } },
+    `this is Electron 30.0.1, ${noBuild(123)}`,
+    'load it in a Node.js process that Electron starts'],
+  ['', asNode('21.0.0', '120'), `this is Node.js 21.0.0, ${noBuild(120)}`,
+    'use Node.js 8, 10, 18, 20, 22, 24, 26'],
+  ['', asNode('22.9.0', '0'), noBuild(0),
+    `run "script/package 22" in a checkout and ${again}`],
+  ['rm -r prebuilds', asNode('8.17.0', '57'),
+    `no build for ABI 57 in ./${builds} (ENOENT)`,
+    `run "script/package 8" in a checkout and ${again}`],
+  ['mkdir script; touch script/test', asNode('22.9.0', '0'), noBuild(0),
+    'run "script/test --runtime 22"'],
+  ['mkdir script; touch script/test', asNode('8.17.0', '0'), noBuild(0),
+    'run "script/demo"'],
+  ['rm index.d.ts', asNode('22.9.0', '0'), 'it is part of a bundle', external],
+  [`truncate -s 3 ${file}`, {}, `${file}: file too short`, again],
+  [`chmod 0 ${file}`, {},
+    `${file}: cannot open shared object file: Permission denied`,
+    'change its permissions'],
+  [`rm ${builds}/*/libkorvane_host.so`, {},
+    'libkorvane_host.so: cannot open shared object file: No such file or directory', again],
+  [`sed -i s/libX11.so.6/libX11.so.9/ ${file}`, {},
+    'libX11.so.9: cannot open shared object file: No such file or directory',
+    'run "apt-get install libx11-6"'],
+  [`sed -i s/GLIBC_2.14/GLIBC_2.99/ ${file}`, {},
+    "libc.so.6: version `GLIBC_2.99' not found",
+    'use Debian 12 or a newer system with glibc'],
+];
 
-// What requiring a folder gives: a count of functions, or the error's text.
-function load(folder, { runtime = process.execPath, launcher = [],
-  before = '', env = process.env, part = 'error.message' } = {}) {
-  const code = `${before}
-    let said;
-    try {
-      said = Object.keys(require(${JSON.stringify(folder)})).length;
-    } catch (error) {
-      said = ${part};
+// Loads the package in the folder as nobody, who may not read all that root may.
+function load(folder, changes) {
+  const options = process.getuid() ? {} : { uid: 65534 };
+  return run(node, ['-e', `
+    const changes = ${JSON.stringify(changes)};
+    changes.versions = Object.assign({}, process.versions, changes.versions);
+    for (const name of Object.keys(changes)) {
+      Object.defineProperty(process, name, { value: changes[name] });
     }
-    console.log(String(said));`;
-  const [command, ...args] = [...launcher, runtime, '-e', code];
-  return execFileSync(command, args, { encoding: 'utf8', env }).trim();
+    try {
+      require('${folder}');
+    } catch (error) {
+      console.log(error.message, Boolean(error.cause));
+    }`], options).replaceAll(folder, '.').trim();
 }
 
-function says(folder, options, problem, there) {
-  const { target = here, wanted = own, version = process.version,
-    library = /glibc \d\.\d+/ } = options;
-  const [major] = /\d+/.exec(version);
-  const command = major === '8' ? 'script/bootstrap && ' +
-    'cmake --preset release && cmake --build --preset release'
-    : `script/test --runtime ${major}`;
-  const lines = load(folder, options).split('\n');
-  const library_ = lines[1].replace(/.*C library /, '');
-  assert(library_.match(library), library_);
-  assert.deepStrictEqual(lines, [
-    `KorvaneHelper cannot be loaded: ${problem}`,
-    `  wanted: ${target} ${wanted} (Node.js ${version}), ` +
-      `C library ${library_}`,
-    `  there is: ${there}`,
-    `  to build it, in a checkout: ${command}`,
-  ]);
+for (const [change, changes, problem, advice] of rows) {
+  test(problem, () => {
+    const folder = makeFolder();
+    run('sh', ['-c', `cp -r ${made}/* . && ${change || true}`],
+      { cwd: folder });
+    const [first, second] = load(folder, changes).split('\n');
+    assert(first.startsWith('KorvaneHelper cannot be loaded: '), first);
+    assert(first.includes(problem), first);
+    const loadsFile = Object.keys(changes).length === 0;
+    assert.strictEqual(second, `To mend this, ${advice}. ${loadsFile}`);
+  });
 }
-
-const none = 'no module is built for this runtime';
-const other = { runtime: another, wanted: anotherInterface,
-  version: anotherVersion };
-
-test('a prebuilt module comes before one built for the runtime, and that ' +
-  'before the product\'s', () => {
-  const damaged = edit(() => Buffer.alloc(0));
-  const [major] = process.versions.node.split('.');
-  const places = [prebuilt, `build/runtime-${major}/module`,
-    'build/release/module'];
-  places.forEach((place, index) => {
-    const later = places.slice(index + 1).map((name) => [name, damaged]);
-    assert.strictEqual(load(install(place, ...later)), `${count}`, place);
-  });
-});
-
-test('without a module for the runtime, those that are there are named', () => {
-  says(install(), {}, none, 'none');
-  says(install(prebuilt), other, none, `${here} ${own}`);
-  says(install('prebuilds/linux-arm64/interface-115', 'prebuilds/other',
-    'prebuilds/linux-arm64/interface-57'), {}, none,
-  'linux-arm64 interface-57, linux-arm64 interface-115');
-  says(install(prebuilt), {
-    target: `linux-${otherArchitecture}`,
-    before: `Object.defineProperty(process, 'arch',
-      { value: '${otherArchitecture}' });`,
-  }, none, `${here} ${own}`);
-});
-
-test('a module that cannot be loaded is named, and why', () => {
-  const cases = [
-    [setMachine(process.arch === 'x64' ? 183 : 62),
-      `it is built for ${otherArchitecture}`],
-    [setMachine(8), 'it is built for ELF machine 8'],
-    [edit((bytes) => bytes.slice(0, 19)), 'it is damaged'],
-    [edit(() => Buffer.from('<html>not what was asked for</html>')),
-      'it is damaged'],
-    [replace('GLIBC_2.14', 'GLIBC_2.99'), 'it needs GLIBC 2.99'],
-    [replace('node_module_register', 'node_module_registeR'),
-      'it is built for another runtime', { LD_BIND_NOW: '1' }],
-    [remove('libkorvane_host.so'),
-      'the host library libkorvane_host.so is missing: ' +
-      'it belongs beside the module'],
-  ];
-  for (const [change, problem, variables] of cases) {
-    const folder = install([prebuilt, change]);
-    says(folder, { env: Object.assign({}, process.env, variables) }, problem,
-      path.join(folder, prebuilt, 'KorvaneHelper.node'));
-  }
-});
-
-test('what else the dynamic loader says is passed on', () => {
-  const folder = install([prebuilt, edit((bytes) => bytes.slice(0, 20))]);
-  const file = path.join(folder, prebuilt, 'KorvaneHelper.node');
-  says(folder, {}, `${file}: file too short`, file);
-  assert.strictEqual(load(folder, { part: 'error.cause.message' }),
-    `${file}: file too short`);
-});
-
-test('a checkout that was built for another runtime says so', () => {
-  const folder = install('build/release/module');
-  says(folder, other, `it is built for ${own}`,
-    path.join(folder, 'build/release/module/KorvaneHelper.node'));
-});
-
-test('a missing libX11 is named, with the package that brings it', () => {
-  const folder = install(prebuilt);
-  const hidden = path.join(__dirname, '../support/without_library');
-  says(folder, { launcher: [hidden, 'libX11'] },
-    'libX11 is missing: apt-get install libx11-6',
-    path.join(folder, prebuilt, 'KorvaneHelper.node'));
-});
-
-test('a C library that does not tell its version is named as far as known',
-  () => {
-    const folder = install();
-    const bin = path.join(folder, 'bin');
-    fs.mkdirSync(bin);
-    const env = Object.assign({}, process.env, { PATH: bin });
-    const getconf = path.join(bin, 'getconf');
-    says(folder, { env, library: /^unknown$/ }, none, 'none');
-    fs.writeFileSync(getconf, '#!/bin/sh\nexit 1\n', { mode: 0o644 });
-    says(folder, { env, library: /^unknown$/ }, none, 'none');
-    fs.chmodSync(getconf, 0o755);
-    says(folder, { env, library: /^not glibc$/ }, none, 'none');
-  });

@@ -1,104 +1,60 @@
 'use strict';
 
-// What script/prebuilds collects and refuses, and a package that is installed.
+// The npm package: what checkers say of it, and that it works once installed.
 
+const assert = require('assert');
 const fs = require('fs');
 const path = require('path');
-const { execFileSync, spawnSync } = require('child_process');
-const { assert, helper, test } = require('../script/harness');
-const { copy, copyModule, makeFolder, replace, setMachine } =
-  require('./copies');
+const { test } = require('node:test');
+const { makeFolder, makePackage, node, run } = require('./packages');
 
-const sources = path.join(__dirname, '../..');
-const build = process.env.KORVANE_BUILD;
-const readme = fs.readFileSync(path.join(sources, 'README.md'), 'utf8');
-const [, glibc] = /glibc ([\d.]*\d)/.exec(readme);
-const [, glibcxx] = /GLIBCXX ([\d.]*\d)/.exec(readme);
-const next = (version) => version.replace(/\d+$/, (last) => Number(last) + 1);
+const project = makeFolder();
+const inProject = { cwd: project };
+const installed = 'node_modules/korvane-helper';
+const npm = (...args) => run('npm', [...args, '--silent', '--offline'],
+  inProject).trim();
+const tool = (name, ...args) => run(process.execPath,
+  [path.join(__dirname, '../../node_modules/.bin', name), ...args], inProject);
+const runFile = (name) => run(node, [name], inProject);
 
-// A build folder whose module is altered.
-function makeBuild(change) {
-  const folder = makeFolder();
-  copy(['compile_commands.json'], build, folder);
-  for (const name of fs.readdirSync(path.join(build, 'CMakeFiles'))) {
-    const compiler = path.join('CMakeFiles', name);
-    if (fs.existsSync(path.join(build, compiler, 'CMakeSystem.cmake'))) {
-      copy(['CMakeSystem.cmake'], path.join(build, compiler),
-        path.join(folder, compiler));
-    }
-  }
-  copyModule(path.join(folder, 'module'), change);
-  return folder;
-}
+const packed = npm('pack', makePackage());
+fs.writeFileSync(path.join(project, 'package.json'), '{}');
+npm('install', packed);
+run('cp', [path.join(__dirname, 'uses_helper.mts'), project]);
+const folder = path.join(project, installed);
+const prints = new RegExp(
+  `^163,hello\n,,,${folder}/prebuilds/.*[.]node,${folder}/include\n$`);
 
-// What script/prebuilds says of such a folder, called BUILD here.
-function collect(change) {
-  const folder = path.join(makeFolder(), 'prebuilds');
-  const source = makeBuild(change);
-  const { status, stderr } = spawnSync(path.join(sources, 'script/prebuilds'),
-    [folder, source], { encoding: 'utf8' });
-  return { folder, status, complaint: stderr.trim().replace(source, 'BUILD') };
-}
-
-test('modules that are not fit for shipping are refused', () => {
-  const riscv = (folder) => execFileSync('sh', ['-c',
-    'sed -i s/x86_64/riscv64/ "$0"/../CMakeFiles/*/CMakeSystem.cmake', folder]);
-  const cases = [
-    [setMachine(183), 'BUILD/module/KorvaneHelper.node is for AArch64, not x64'],
-    [setMachine(183, 'libkorvane_host.so'),
-      'BUILD/module/libkorvane_host.so is for AArch64, not x64'],
-    [riscv, 'BUILD is for riscv64'],
-    [replace('GLIBC_2.14', `GLIBC_${next(glibc)}`),
-      `BUILD/module/KorvaneHelper.node needs GLIBC ${next(glibc)}, ` +
-      `README.md promises ${glibc}`],
-    [replace('GLIBC_2.14', `GLIBC_${glibc}`)],
-    [replace('GLIBCXX_3.4.21', `GLIBCXX_${next(glibcxx)}`),
-      `BUILD/module/KorvaneHelper.node needs GLIBCXX ${next(glibcxx)}, ` +
-      `README.md promises ${glibcxx}`],
-    [replace('GLIBCXX_3.4.21', `GLIBCXX_${glibcxx}`)],
-    [replace('parse_url_u\0', 'parse_url_x\0'),
-      'BUILD/module/KorvaneHelper.node exports parse_url_x'],
-  ];
-  for (const [change, problem] of cases) {
-    const { status, complaint } = collect(change);
-    assert.deepStrictEqual([status, complaint],
-      problem ? [1, `Not fit for shipping: ${problem}`] : [0, '']);
-  }
+test('publint and attw find nothing', () => {
+  tool('publint', '--strict', packed);
+  tool('attw', packed);
 });
 
-test('a package installs without a network and works', () => {
-  const stage = makeFolder();
-  copy(['package.json', 'index.js', 'index.d.ts', 'README.md', 'LICENSE',
-    'CHANGELOG.md', 'docs'], sources, stage);
-  const { folder, complaint } = collect();
-  assert.strictEqual(complaint, '');
-  copy(['prebuilds'], path.dirname(folder), stage);
+test('a package of the installed files is the same', () => {
+  fs.mkdirSync(path.join(project, 'again'));
+  npm('pack', `./${installed}`, '--pack-destination', 'again');
+  run('cmp', [packed, `again/${packed}`], inProject);
+});
 
-  const project = makeFolder();
-  const npm = (...args) => execFileSync('npm',
-    [...args, '--silent', '--ignore-scripts', '--offline'],
-    { cwd: project, encoding: 'utf8' });
-  npm('pack', stage);
-  fs.writeFileSync(path.join(project, 'package.json'), '{}');
-  npm('install', './korvane-helper-1.0.0.tgz');
+test('a TypeScript module imports functions by their names', () => {
+  tool('tsc', '--strict', '--target', 'es2020', '--module', 'nodenext',
+    'uses_helper.mts');
+  const [major] = run(node, ['-p', 'process.versions.node']).split('.');
+  // Node.js 8 and 10 have no modules.
+  if (major >= 18) assert.match(runFile('uses_helper.mjs'), prints);
+});
 
-  const installed = execFileSync('find', ['node_modules/korvane-helper',
-    '-type', 'f'], { cwd: project, encoding: 'utf8' })
-    .trim().split('\n').map((name) => name.slice(28)).sort();
-  const prebuilt = `prebuilds/linux-${process.arch}/` +
-    `interface-${process.versions.modules}`;
-  assert.deepStrictEqual(installed.filter((name) => !/^docs\//.test(name)), [
-    'CHANGELOG.md', 'LICENSE', 'README.md', 'index.d.ts', 'index.js',
-    'package.json', `${prebuilt}/KorvaneHelper.node`,
-    `${prebuilt}/libkorvane_host.so`]);
+const bundle = (...options) => tool('esbuild', 'uses_helper.mts', '--bundle',
+  '--platform=node', '--target=node8', '--outfile=dist/bundle.js',
+  '--log-level=error', ...options);
 
-  fs.writeFileSync(path.join(project, 'script.js'), `
-    const helper = require('korvane-helper');
-    console.log(Object.keys(helper).length);
-    console.log(helper.System('echo hello'));
-  `);
-  assert.strictEqual(
-    execFileSync(process.execPath, ['script.js'],
-      { cwd: project, encoding: 'utf8' }),
-    `${Object.keys(helper).length}\nhello\n\n`);
+test('a bundle requires what is marked external', () => {
+  bundle('--external:korvane-helper');
+  assert.match(runFile('dist/bundle.js'), prints);
+});
+
+test('a bundle that holds the package says what to do', () => {
+  bundle();
+  assert.throws(() => runFile('dist/bundle.js'),
+    /part of a bundle\nTo mend this, mark it external, for esbuild by "--ext/);
 });

@@ -1,0 +1,35 @@
+'use strict';
+
+// The package with the module of this build, in folders that are gone when the
+// process ends.
+
+const fs = require('fs');
+const os = require('os');
+const path = require('path');
+const { execFileSync } = require('child_process');
+
+const { KORVANE_BUILD: build, KORVANE_NODE: node } = process.env;
+const root = fs.mkdtempSync(path.join(os.tmpdir(), 'package-'));
+fs.chmodSync(root, 0o755);
+process.on('exit', () => fs.rmSync(root, { recursive: true }));
+
+const run = (command, args, options) => execFileSync(command, args,
+  { encoding: 'utf8', stdio: 'pipe', ...options });
+
+function makeFolder() {
+  const folder = fs.mkdtempSync(path.join(root, 'x'));
+  fs.chmodSync(folder, 0o755);
+  return folder;
+}
+
+function makePackage() {
+  const folder = makeFolder();
+  run(path.join(__dirname, '../../script/stage'), [folder]);
+  const prebuilds = path.join(folder, `prebuilds/linux-${process.arch}`);
+  const abi = run(node, ['-p', 'process.versions.modules']).trim();
+  fs.mkdirSync(prebuilds, { recursive: true });
+  run('cp', ['-r', path.join(build, 'module'), `${prebuilds}/abi-${abi}`]);
+  return folder;
+}
+
+module.exports = { build, makeFolder, makePackage, node, run };
