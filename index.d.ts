@@ -1,24 +1,23 @@
 /**
- * The functions that a script can call.
+ * The script functions of KorvaneHelper. 20 functions do something here, 67
+ * return a constant and 76 do nothing; every name exists on every platform.
  *
- * Every name is there on every platform, so a script can call it without
- * testing for it first. A call never throws: a missing or mistyped argument
- * gives the function's fallback. Texts, numbers and functions are tested and not
- * coerced, unless the function says so: a `String` object is no text. Longer
- * texts are cut silently where a limit is given.
+ * Nothing throws. If an argument is missing or has the wrong type, a function
+ * returns its fallback. Arguments are not converted, unless it says so: "5" is
+ * no number, and `new String("a")` is no string. Numbers become 32-bit
+ * integers. Strings are cut silently at their limits, which count UTF-8 bytes.
+ * Every call blocks until it is done.
  *
- * A function answers through its return value. None of those whose names begin
- * with "asyn" or "async" calls the function that it is given.
- *
- * A window is its X identifier. That of a window that is gone is an error of the
- * display, which ends the process; 0 is one, too, but for `isWindowHandle`,
- * `enableWindow` and `getWindowRect`. A window function opens the display that
- * `DISPLAY` names and closes it again.
+ * A window is its X11 identifier. A window that no longer exists terminates the
+ * process: the X library exits, and no `try` catches it. So does window 0, but
+ * not in `isWindowHandle`, `enableWindow` and `getWindowRect`. Positions and
+ * sizes are in pixels. Without a display a function returns its fallback.
  *
  * @packageDocumentation
  */
 
-/** Pixels on the screen. */
+// Windows and the screen
+
 export interface Rectangle {
   x: number;
   y: number;
@@ -26,80 +25,50 @@ export interface Rectangle {
   height: number;
 }
 
-/** A function that this platform takes and never calls. */
-export type NeverCalled = (...results: never[]) => void;
-
-/** Does nothing. */
-export function printEtwLog(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function printAdvancedEtwLog(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function attachShadowWindow(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function drawShadowWindow(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function destroyShadowWindow(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function setShadowWindowResizable(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function initGDIPlus(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function uninitGDIPlus(...ignored: unknown[]): undefined;
-
 /**
- * How much larger than the reference DPI the display is: its width in pixels
- * for each inch, over the reference. Ask once and keep the answer: every call
- * leaves one of the server's connections taken until the process ends.
+ * Whether the window exists and has a property. Terminates the process for a
+ * window that no longer exists.
  *
- * @returns two decimal places, cut off and not rounded; 1 without a display,
- *   and for a display without a physical size
+ * @returns fallback `false`
  */
-export function getMonitorDPIFactor(): number;
+export function isWindowHandle(window: number): boolean;
 
 /**
- * Whether the module knows display scales.
+ * The size of a window without its border, and its position counted twice: its
+ * place on the screen plus its position in its parent. A window at (10, 20) of
+ * the screen returns x 20 and y 40.
  *
- * @returns `true`
+ * @returns fallback zeros, or `undefined` without an argument
  */
-export function getDPIAwareSupport(): boolean;
+export function getWindowRect(window: number): Rectangle;
 
 /**
- * The same as `getMonitorDPIFactor`.
+ * Moves and resizes a window. An argument that is not a number counts as 0, and
+ * a width or height of 0 terminates the process. Does nothing unless there are
+ * exactly six arguments.
  *
- * @returns the same number
+ * @param x from the left edge of the parent
+ * @param y from the top edge of the parent
+ * @param repaint ignored
  */
-export function getSysDPIFactor(): number;
+export function moveWindow(
+  window: number,
+  x: number,
+  y: number,
+  width: number,
+  height: number,
+  repaint: boolean,
+): undefined;
 
 /**
- * Sets the reference DPI of the process, which is 96 at first.
+ * Moves, resizes, shows or hides a window, and changes its stacking order. Does
+ * nothing unless there are exactly seven numbers.
  *
- * @param dpi whole DPI, the rest is cut off; 0 and less leave the reference as
- *   it is. Any value is taken as a number: "120" is 120, `true` is 1, and what
- *   is no number leaves the reference as it is.
- */
-export function setDefaultDPI(dpi: number): undefined;
-
-/**
- * Moves, resizes, shows or hides a window and changes what it stands on.
- *
- * @param window the window
- * @param insertAfter a window that comes to stand directly beneath it; 0 for
- *   none
- * @param x from the left edge of its parent
- * @param y from the top edge of its parent
- * @param cx width
- * @param cy height
- * @param flags a sum of 0x1 (keep the size), 0x2 (keep the position), 0x40
- *   (show) and 0x80 (hide, unless 0x40 is there too); other bits are ignored
- * @returns `false`, whatever came of it
- * @fallback `false`, and nothing is done: exactly seven numbers are needed
+ * @param insertAfter a sibling that is put directly beneath the window, 0 for
+ *   none; any other value terminates the process
+ * @param flags 0x1 keeps the size, 0x2 keeps the position, 0x40 shows, 0x80
+ *   hides unless 0x40 is set; others are ignored
+ * @returns always `false`; read the new place with `getWindowRect`
  */
 export function setWindowPos(
   window: number,
@@ -111,926 +80,427 @@ export function setWindowPos(
   flags: number,
 ): boolean;
 
-/** Does nothing. */
-export function getWindowLong(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function setWindowLong(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function modifyStyle(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function modifyStyleEx(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function setWindowFocus(...ignored: unknown[]): undefined;
-
 /**
- * Shows, hides or maximises a window.
+ * Shows, hides or maximises a window. Does nothing unless there are exactly two
+ * numbers.
  *
- * @param window the window
- * @param command 0 hides, 5 shows, 3 sends a message to maximise, which most
- *   window managers do not get; others do nothing
- * @returns `false`, whatever came of it
- * @fallback `false`, and nothing is done: exactly two numbers are needed
+ * @param command 0 hides, 5 shows, 3 asks the window manager to maximise, which
+ *   most ignore in this form; others do nothing
+ * @returns always `false`
  */
 export function showWindow(window: number, command: number): boolean;
 
-/** Does nothing. */
-export function getNextWindow(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function allowSetForegroundWindow(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function setForegroundWindow(...ignored: unknown[]): undefined;
-
 /**
- * Whether a window exists and has a property. The identifier of a window that
- * is gone is an error of the display, which ends the process.
+ * Raises a window above its siblings.
  *
- * @param window the window
- * @returns `true` or `false`
- * @fallback `false`: exactly one number is needed
- */
-export function isWindowHandle(window: number): boolean;
-
-/** Does nothing. */
-export function setDllDirectory(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function findChildWindow(...ignored: unknown[]): undefined;
-
-/**
- * Puts a window on top of its siblings.
- *
- * @param window the window
- * @returns `true` when the request was sent, `false` without a display
- * @fallback `false`: exactly one number is needed
+ * @returns whether the request was sent; fallback `false`
  */
 export function bringWindowToTop(window: number): boolean;
 
 /**
- * Whether a key is down: not known on this platform.
+ * Changes nothing: X11 windows always accept input.
  *
- * @param key a mouse button (1 to 4) or a keysym
- * @returns 1 for every key
- * @fallback 0: exactly one number is needed
- */
-export function getKeyState(key: number): number;
-
-/**
- * Who this machine is to its peers: the hardware address of the last network
- * interface that the kernel lists, and a suffix. Writes trace lines to standard
- * output.
- *
- * @returns 12 upper-case hexadecimal digits and "007V"; "007V" alone when no
- *   address could be read
- */
-export function getPeerID(): string;
-
-/**
- * The machine's DMI code: not known on this platform.
- *
- * @returns `""`
- */
-export function getDmideCode(): string;
-
-/**
- * The version of a file: the same for every file.
- *
- * @returns `"1.0.0.1"`
- */
-export function getFileVersion(...ignored: unknown[]): string;
-
-/** Does nothing. */
-export function getClipBoardText(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function queryRegValue(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function readRegString(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function writeRegValue(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function deleteRegValue(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function deleteRegKey(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function createRegKey(...ignored: unknown[]): undefined;
-
-/**
- * The state of the connection to the internet: not known on this platform.
- *
- * @returns `0`
- */
-export function getCurInternetState(): number;
-
-/**
- * Would report changes of the local network.
- *
- * @param callback never called
- * @returns `undefined`
- */
-export function startListenLocalNet(callback?: NeverCalled): undefined;
-
-/** Does nothing. */
-export function stopListenLocalNet(...ignored: unknown[]): undefined;
-
-/**
- * Leaves the machine running.
- *
- * @returns `undefined`
- */
-export function shutDownMachine(): undefined;
-
-/**
- * Leaves the machine awake.
- *
- * @returns `undefined`
- */
-export function suspendMachine(): undefined;
-
-/**
- * Leaves the machine running.
- *
- * @returns `undefined`
- */
-export function rebootdMachine(): undefined;
-
-/** Does nothing. */
-export function initClipBoard(...ignored: unknown[]): undefined;
-
-/**
- * Registers a function for the links found on the clipboard. It is called once,
- * before `attachClipBoard` returns, with a fixed link, and is kept for the life
- * of the process; what it throws is dropped.
- *
- * @param callback takes the number 1 and the links
- * @returns `0`
- * @fallback `0`, and nothing is called
- */
-export function attachClipBoard(
-  callback: (one: number, links: string[]) => void,
-): number;
-
-/**
- * The folder of a user's low-trust data: not known on this platform.
- *
- * @returns `""`
- */
-export function getAppDataLocalLowPath(): string;
-
-/**
- * The folder of a user's roaming data: not known on this platform.
- *
- * @returns `""`
- */
-export function getRoamingAppDataPath(): string;
-
-/**
- * The folder of the data that users share: not known on this platform.
- *
- * @returns `""`
- */
-export function getPublicUserDataPath(): string;
-
-/** Does nothing. */
-export function readINI(...ignored: unknown[]): undefined;
-
-/**
- * Writes no setting.
- *
- * @returns `0`
- */
-export function writeINI(...ignored: unknown[]): number;
-
-/**
- * Tells no browser of a change.
- *
- * @returns `false`
- */
-export function notifyBrowserConfigChanged(...ignored: unknown[]): boolean;
-
-/**
- * Whether the product starts afresh: not known on this platform.
- *
- * @returns `undefined`
- */
-export function iSColdStartUp(): undefined;
-
-/** Does nothing. */
-export function refreshIcon(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function startAutoUpdateWithUI(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function startManualUpdateWithUI(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function startUpdateWithUI(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function initLiveUD(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function isKorvaneOnUserFocus(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function moveSuspenWindow(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function shellExecute(...ignored: unknown[]): undefined;
-
-/**
- * Whether the host of a URL resolves. Waits for the system's resolver.
- *
- * One scheme at the start ("http://", "https://" or "ftp://", in lower case)
- * and all from the first slash on are taken off; without a slash, all from the
- * first backslash on. What is left is the name: with a port or a user it does
- * not resolve.
- *
- * @param url a URL or a host, cut after 8,181 bytes of UTF-8; any other value
- *   is taken as its text
- * @returns 1 or 0, a number
- */
-export function isPingHostValid(url: string): number;
-
-/**
- * Whether this is a certain desktop system, which it is not.
- *
- * @returns `0`, a number
- */
-export function isWin7(): number;
-
-/** Does nothing. */
-export function copyTextToClipBoard(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function emptyClipBoard(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function endKorvaneStartProcess(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function getForegroundProcessName(...ignored: unknown[]): undefined;
-
-/**
- * Whether a window covers the screen: not known on this platform.
- *
- * @returns `undefined`
- */
-export function isFullScreen(): undefined;
-
-/**
- * Writes the usage of the file systems, as "df -h" prints it, to the file
- * "tmp.text" in the current directory. Waits until it is written.
- */
-export function getLogicalDriveStrings(): undefined;
-
-/** Does nothing. */
-export function getDriveInfo(...ignored: unknown[]): undefined;
-
-/**
- * The type of a drive: the same for every drive.
- *
- * @param path where the drive is
- * @returns 0
- * @fallback `undefined`
- */
-export function getDriveType(path: string): number;
-
-/** Does nothing. */
-export function getPartitionSpace(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function getFreePartitionSpace(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function getSystemTempPath(...ignored: unknown[]): undefined;
-
-/**
- * Whether a path can be a file's: not known on this platform.
- *
- * @param path a path
- * @returns `false`
- */
-export function isFilePathValid(path: string): boolean;
-
-/**
- * The user's desktop folder: not known on this platform.
- *
- * @returns `""`
- */
-export function getDesktopPath(): string;
-
-/**
- * The user's folder of documents: not known on this platform.
- *
- * @returns `""`
- */
-export function getDocumentPath(): string;
-
-/**
- * The channel that the product was installed from: none on this platform.
- *
- * @returns `""`
- */
-export function getInstallChannel(): string;
-
-/** Does nothing. */
-export function isKorvanePrivateUrl(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function parseKorvanePrivateUrl(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function makeKorvanePrivateUrl(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function parseFileNameFromP2spUrlPath(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function parseUrl(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function parseEd2kUrl(...ignored: unknown[]): undefined;
-
-/**
- * The type of the download task that a URL starts: the same for every URL.
- *
- * @param url a URL, cut after 2,082 bytes of UTF-8
- * @returns 0
- * @fallback `undefined`
- */
-export function getTaskTypeFromUrl(url: string): number;
-
-/** Does nothing. */
-export function parseMagnetUrl(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function makeUrl(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function getOSVersion(...ignored: unknown[]): undefined;
-
-/**
- * The same as `getInstallChannel`.
- *
- * @returns `""`
- */
-export function getChannelID(): string;
-
-/** Does nothing. */
-export function isWindowEnable(...ignored: unknown[]): undefined;
-
-/**
- * Would let a window take input or not; windows here always take it.
- *
- * @param window the window
- * @param enable whether it is to take input
- * @returns `false`
- * @fallback `undefined`: without both arguments, for a first that is no number,
- *   and for 0 and others that `isWindowHandle` denies
+ * @returns `false` for a window; `undefined` for what `isWindowHandle` denies,
+ *   and as the fallback
  */
 export function enableWindow(
   window: number,
   enable: boolean,
 ): boolean | undefined;
 
-/** Does nothing. */
-export function setScreenSaveActive(...ignored: unknown[]): undefined;
+/** The size of the screen; zeros without a display. */
+export function getDisplayWindowRect(): { width: number; height: number };
 
-/**
- * The processors' frequency: not known on this platform.
- *
- * @param callback never called
- * @returns `0`
- */
-export function getCpuFrequency(callback?: NeverCalled): number;
-
-/**
- * How many processors there are: one, whatever the machine has.
- *
- * @returns `1`
- */
-export function getCpuProcessors(): number;
-
-/**
- * The time since the start, which is not kept on this platform.
- *
- * @returns `undefined`
- */
-export function getTickCount(): undefined;
-
-/** Does nothing. */
-export function extractIcon(...ignored: unknown[]): undefined;
-
-/**
- * Collates the second text against the first by the locale of the environment.
- * Of a text that begins below U+0100 only the first character takes part; of
- * others the bytes of the 16-bit units do, low byte first, up to the first zero.
- *
- * @param a the first text
- * @param b the second text
- * @returns less than 0 when `b` comes first, more than 0 when `a` does, 0 when
- *   they are equal
- * @fallback 0: exactly two texts are needed
- */
-export function compareStr(a: string, b: string): number;
-
-/** Does nothing. */
-export function getFreeTime(...ignored: unknown[]): undefined;
-
-/**
- * Leaves a file's attributes as they are.
- *
- * @param path a file
- * @param attributes what they would be
- * @returns `false`
- */
-export function setFileAttributes(path: string, attributes: number): boolean;
-
-/**
- * Copies nothing.
- *
- * @param from a file
- * @param to where it would go
- * @param callback never called
- * @returns `0`
- */
-export function asynCopyFile(
-  from: string,
-  to: string,
-  callback: NeverCalled,
-): number;
-
-/**
- * Moves nothing.
- *
- * @param from a file
- * @param to where it would go
- * @param callback never called
- * @returns `0`
- */
-export function asynMoveFile(
-  from: string,
-  to: string,
-  callback: NeverCalled,
-): number;
-
-/**
- * Deletes nothing.
- *
- * @param path a file
- * @param callback never called
- * @returns `-1`, unlike its siblings
- */
-export function asynDeleteFile(path: string, callback: NeverCalled): number;
-
-/**
- * Whether a file exists: not known on this platform.
- *
- * @returns `false`
- */
-export function queryFileExists(...ignored: unknown[]): boolean;
-
-/**
- * Loads nothing ahead.
- *
- * @param path a file
- * @returns `0`
- */
-export function asynPreLoadFile(path: string): number;
-
-/**
- * Prepares no upgrade.
- *
- * @param text not used
- * @returns `false`
- */
-export function initUpgrade(text: string): boolean;
-
-/**
- * Upgrades nothing.
- *
- * @param first a text, not used
- * @param second a text, not used
- * @param callback never called
- * @returns `0`
- */
-export function asyncUpgradeP2spTask(
-  first: string,
-  second: string,
-  callback: NeverCalled,
-): number;
-
-/**
- * Upgrades nothing.
- *
- * @param first a text, not used
- * @param second a text, not used
- * @param third a text, not used
- * @param callback never called
- * @returns `0`
- */
-export function asyncUpgradeBtTask(
-  first: string,
-  second: string,
-  third: string,
-  callback: NeverCalled,
-): number;
-
-/**
- * Upgrades nothing.
- *
- * @param first a text, not used
- * @param second a text, not used
- * @param third a text, not used
- * @param callback never called
- * @returns `0`
- */
-export function asyncUpgradeEmuleTask(
-  first: string,
-  second: string,
-  third: string,
-  callback: NeverCalled,
-): number;
-
-/**
- * Runs nothing. Given all four arguments, the last a function, the other three
- * are read as texts whatever they are.
- *
- * @param file a program
- * @param parameters its command line
- * @param folder where it would run
- * @param callback never called
- * @returns `0`
- */
-export function asyncShellExecuteAndWait(
-  file: string,
-  parameters: string,
-  folder: string,
-  callback: NeverCalled,
-): number;
-
-/**
- * Runs nothing.
- *
- * @returns `0`
- */
-export function asyncShellExecute(...ignored: unknown[]): number;
-
-/**
- * The long form of a path: paths here have one form.
- *
- * @returns `""`
- */
-export function getLongPathName(...ignored: unknown[]): string;
-
-/**
- * The folder of files that programs share: not known on this platform.
- *
- * @returns `""`
- */
-export function getCommonFilesPath(): string;
-
-/**
- * The user's browser: not known on this platform.
- *
- * @returns `""`
- */
-export function getDefaultBrowserPath(): string;
-
-/** Does nothing. */
-export function openURLByIEorDefault(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function openURLByDefault(...ignored: unknown[]): undefined;
-
-/**
- * Answers yes, alone among the questions with one answer about the desktop.
- *
- * @returns `true`
- */
-export function isOpenLumo(): boolean;
-
-/**
- * Whether a window covers the screen: answers no even when one does.
- *
- * @returns `false`
- */
-export function IsInFullScreen(): boolean;
-
-/**
- * Whether the desktop is composed: not known on this platform.
- *
- * @returns `false`
- */
-export function isDwmCompositionEnabled(): boolean;
-
-/**
- * Whether windows throw shadows: not known on this platform.
- *
- * @returns `false`
- */
-export function isDropShadowEnabled(): boolean;
-
-/**
- * Encodes nothing.
- *
- * @param text not used
- * @param number not used
- * @returns `""`
- */
-export function utf8StringEncodeToBinary(
-  text: string,
-  number: number,
-): string;
-
-/**
- * Decodes nothing.
- *
- * @param text not used
- * @param number not used
- * @returns `""`
- */
-export function utf8StringDecodeFromBinary(
-  text: string,
-  number: number,
-): string;
-
-/**
- * Where the pointer is on the screen.
- *
- * @returns zeros without a display
- */
+/** The position of the pointer on the screen; zeros without a display. */
 export function getCursorPos(): { x: number; y: number };
 
 /**
- * How large the screen is.
+ * Asks for the state of a key and ignores it.
  *
- * @returns zeros without a display
+ * @returns always 1; fallback 0
  */
-export function getDisplayWindowRect(): { width: number; height: number };
+export function getKeyState(key: number): number;
+
+// Display scale
 
 /**
- * The window at a point: not known on this platform.
+ * The scale of the display: its dots per inch over the reference DPI. Ask once:
+ * every call leaves a connection to the X server open until the process exits,
+ * and after about 250 no program can open a window any more.
  *
- * @returns `undefined`
+ * @returns two decimals, cut and not rounded; 1 without a display
  */
-export function getWndHandleFromPoint(...ignored: unknown[]): undefined;
+export function getMonitorDPIFactor(): number;
+
+/** The same as `getMonitorDPIFactor`, with the same danger. */
+export function getSysDPIFactor(): number;
 
 /**
- * The window that a window belongs to: not known on this platform.
+ * Sets the reference DPI of the process, 96 by default.
  *
- * @returns `undefined`
+ * @param dpi any value, which is converted to a number and cut to an integer:
+ *   "120" is 120. Below 1 it is ignored.
  */
-export function getParentWnd(...ignored: unknown[]): undefined;
+export function setDefaultDPI(dpi: number): undefined;
+
+// Shell commands
 
 /**
- * Digests nothing.
+ * Runs a command in the shell, with this process's environment, directory,
+ * standard input and standard error, and waits until it ends.
  *
- * @returns `0`
- */
-export function asyncCalcuteFileMD5(...ignored: unknown[]): number;
-
-/**
- * Would report how busy the disks are.
- *
- * @param callback never called
- * @returns `0`
- */
-export function asyncDiskIdleInfo(callback?: NeverCalled): number;
-
-/**
- * Unpacks nothing.
- *
- * @param archive a file
- * @param folder where its contents would go
- * @param callback never called
- * @returns `0`
- */
-export function asyncUnZipFile(
-  archive: string,
-  folder: string,
-  callback: NeverCalled,
-): number;
-
-/**
- * The proxy of a browser that is not on this platform.
- *
- * @returns `undefined`
- */
-export function getIEProxy(): undefined;
-
-/**
- * The class of a window: none on this platform.
- *
- * @returns `""`
- */
-export function getWindowClassName(...ignored: unknown[]): string;
-
-/**
- * Leaves the environment as it is.
- *
- * @returns `0`
- */
-export function setProcessEnvironmentVariable(...ignored: unknown[]): number;
-
-/**
- * Leaves the environment as it is.
- *
- * @returns `0`
- */
-export function removeProcessEnvironmentVariable(...ignored: unknown[]): number;
-
-/**
- * Looks for no process.
- *
- * @returns `0`
- */
-export function asyncFindProcess(...ignored: unknown[]): number;
-
-/**
- * Ends no process.
- *
- * @returns `0`
- */
-export function terminateProcessByName(...ignored: unknown[]): number;
-
-/**
- * Leaves the process its memory.
- *
- * @returns `false`
- */
-export function emptyWorkingSet(...ignored: unknown[]): boolean;
-
-/**
- * Would report the network adapters.
- *
- * @returns `0`
- */
-export function getNetAdapterInfo(...ignored: unknown[]): number;
-
-/**
- * The processor's identifier: not known on this platform.
- *
- * @returns `""`
- */
-export function getCpuID(): string;
-
-/** Does nothing. */
-export function disableWindowAnimation(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function setBugreportCustomInfo(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function setBugreportShowMode(...ignored: unknown[]): undefined;
-
-/**
- * Makes no shortcut.
- *
- * @returns `false`
- */
-export function createShortcut(...ignored: unknown[]): boolean;
-
-/**
- * Leaves the desktop's icons as they are.
- *
- * @returns `0`
- */
-export function updateDesktopIcon(...ignored: unknown[]): number;
-
-/** Does nothing. */
-export function getMediaInfo(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function calculateFileCID(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function calculateFileGCID(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function calculateFileBCID(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function attachVirtualDisk(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function detachVirtualDisk(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function getVirtualDiskPhysicalPath(...ignored: unknown[]): undefined;
-
-/**
- * Where a window is and how large. The position is that of the window's own
- * parent-relative position taken as a point inside the window: a window at
- * (10, 20) of the screen answers x 20 and y 40.
- *
- * @param window the window
- * @returns zeros without a display, and for 0
- * @fallback zeros for what is no number; `undefined` without an argument
- */
-export function getWindowRect(window: number): Rectangle;
-
-/** Does nothing. */
-export function isIconic(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function isZoomed(...ignored: unknown[]): undefined;
-
-/**
- * Moves and resizes a window.
- *
- * @param window the window
- * @param x from the left edge of its parent
- * @param y from the top edge of its parent
- * @param width of the window, without its frame
- * @param height of the window, without its frame
- * @param repaint not used
- * @fallback nothing is done unless there are exactly six arguments; one of the
- *   first five that is no number counts as 0
- */
-export function moveWindow(
-  window: number,
-  x: number,
-  y: number,
-  width: number,
-  height: number,
-  repaint: boolean,
-): undefined;
-
-/** Does nothing. */
-export function isWindowVisible(...ignored: unknown[]): undefined;
-
-/**
- * Would report the programs that are installed.
- *
- * @param callback never called
- * @returns `undefined`
- */
-export function getAppList(callback?: NeverCalled): undefined;
-
-/**
- * Would report which disks are solid-state ones.
- *
- * @param callback never called
- * @returns `undefined`
- */
-export function isSSD(callback?: NeverCalled): undefined;
-
-/**
- * Would report the memory.
- *
- * @param callback never called
- * @returns `undefined`
- */
-export function getMemoryInfo(callback?: NeverCalled): undefined;
-
-/**
- * Would report the disks' sizes.
- *
- * @param callback never called
- * @returns `undefined`
- */
-export function getHardDiskSpaceList(callback?: NeverCalled): undefined;
-
-/**
- * Would report the processors.
- *
- * @param callback never called
- * @returns `undefined`
- */
-export function getCpuList(callback?: NeverCalled): undefined;
-
-/** Does nothing. */
-export function getDriveMediaType(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function IsSparseFile(...ignored: unknown[]): undefined;
-
-/** Does nothing. */
-export function IsSparseDriver(...ignored: unknown[]): undefined;
-
-/**
- * Runs a command in the shell, with the environment and the current directory
- * of the process, and waits until it has ended.
- *
- * @param command cut after 1,023 bytes of UTF-8
- * @returns what it wrote to standard output: at most 20,479 bytes, up to the
- *   first zero byte; `""` when it could not be started
- * @fallback `undefined`, and nothing is run
+ * @param command cut after 1,023 bytes, and what is left is run. Never build it
+ *   from outside text: the shell runs whatever is in it.
+ * @returns its standard output, cut after 20,479 bytes and at the first zero
+ *   byte; "" also if it failed; fallback `undefined`, and nothing is run
  */
 export function System(command: string): string;
 
-/** Does nothing. */
+/** Runs "df -h > tmp.text": overwrites "tmp.text" in the current directory. */
+export function getLogicalDriveStrings(): undefined;
+
+// Network and identity
+
+/**
+ * Whether the host of a URL has an IPv4 address. Nothing is sent to the host,
+ * and the resolver may block for many seconds. IPv6 addresses, such as "::1",
+ * are 0.
+ *
+ * @param url a host name, or a URL whose scheme is "http://", "https://" or
+ *   "ftp://" in lower case; with a port, a user, a query or a fragment in front
+ *   of the first slash it is 0. Any value is converted to a string, cut after
+ *   8,181 bytes.
+ * @returns 1 or 0
+ */
+export function isPingHostValid(url: string): number;
+
+/**
+ * Identifies this machine by the hardware address of its last network
+ * interface. Neither unique nor stable. Prints lines to standard output.
+ *
+ * @returns 12 hexadecimal digits and "007V"; "007V" without an address
+ */
+export function getPeerID(): string;
+
+// Text, clipboard and links
+
+/**
+ * Compares the first characters in the order of the locale. Of a string that
+ * begins at U+0100 or above it compares the bytes of the UTF-16 code units, low
+ * byte first, up to the first zero byte.
+ *
+ * @returns less than 0 if `b` comes first, more than 0 if `a` does, 0 if they
+ *   are equal; fallback 0
+ */
+export function compareStr(a: string, b: string): number;
+
+/**
+ * Calls the callback once, before it returns, with 1 and a fixed link:
+ * `["http://example.com/"]`. The clipboard is not read. The callback is kept
+ * until the process exits, and what it throws is ignored.
+ *
+ * @returns always 0
+ */
+export function attachClipBoard(
+  callback: (one: number, links: string[]) => void,
+): number;
+
+/**
+ * The type of the download task that a URL starts, which is 0 for every URL.
+ *
+ * @param url cut after 2,082 bytes
+ * @returns fallback `undefined`
+ */
+export function getTaskTypeFromUrl(url: string): number;
+
+// Constants
+
+/** @deprecated Always returns `true`. */
+export function getDPIAwareSupport(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `""`. */
+export function getDmideCode(...ignored: unknown[]): string;
+/** @deprecated Always returns `"1.0.0.1"`. */
+export function getFileVersion(...ignored: unknown[]): string;
+/** @deprecated Always returns `0`. Use `os.networkInterfaces()`. */
+export function getCurInternetState(...ignored: unknown[]): number;
+/** @deprecated Always returns `undefined`. */
+export function startListenLocalNet(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `undefined`. */
+export function shutDownMachine(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `undefined`. */
+export function suspendMachine(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `undefined`. */
+export function rebootdMachine(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `""`. Use `os.homedir()`. */
+export function getAppDataLocalLowPath(...ignored: unknown[]): string;
+/** @deprecated Always returns `""`. Use `os.homedir()`. */
+export function getRoamingAppDataPath(...ignored: unknown[]): string;
+/** @deprecated Always returns `""`. Use `os.homedir()`. */
+export function getPublicUserDataPath(...ignored: unknown[]): string;
+/** @deprecated Always returns `0`. Use `fs.writeFile`. */
+export function writeINI(...ignored: unknown[]): number;
+/** @deprecated Always returns `false`. */
+export function notifyBrowserConfigChanged(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `undefined`. */
+export function iSColdStartUp(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `0`. Use `process.platform`. */
+export function isWin7(...ignored: unknown[]): number;
+/** @deprecated Always returns `undefined`. */
+export function isFullScreen(...ignored: unknown[]): undefined;
+/** @deprecated Returns `0` for a string, otherwise `undefined`. */
+export function getDriveType(...ignored: unknown[]): number | undefined;
+/** @deprecated Always returns `false`. Use `fs.existsSync`. */
+export function isFilePathValid(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `""`. Use `os.homedir()`. */
+export function getDesktopPath(...ignored: unknown[]): string;
+/** @deprecated Always returns `""`. Use `os.homedir()`. */
+export function getDocumentPath(...ignored: unknown[]): string;
+/** @deprecated Always returns `""`. */
+export function getInstallChannel(...ignored: unknown[]): string;
+/** @deprecated Always returns `""`. */
+export function getChannelID(...ignored: unknown[]): string;
+/** @deprecated Always returns `0`. Use `os.cpus()`. */
+export function getCpuFrequency(...ignored: unknown[]): number;
+/** @deprecated Always returns `1`. Use `os.cpus()`. */
+export function getCpuProcessors(...ignored: unknown[]): number;
+/** @deprecated Always returns `undefined`. Use `process.uptime()`. */
+export function getTickCount(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `false`. Use `fs.chmodSync`. */
+export function setFileAttributes(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `0`. Use `fs.copyFile`. */
+export function asynCopyFile(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. Use `fs.rename`. */
+export function asynMoveFile(...ignored: unknown[]): number;
+/** @deprecated Always returns `-1`. Use `fs.unlink`. */
+export function asynDeleteFile(...ignored: unknown[]): number;
+/** @deprecated Always returns `false`. Use `fs.existsSync`. */
+export function queryFileExists(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `0`. */
+export function asynPreLoadFile(...ignored: unknown[]): number;
+/** @deprecated Always returns `false`. */
+export function initUpgrade(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `0`. */
+export function asyncUpgradeP2spTask(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. */
+export function asyncUpgradeBtTask(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. */
+export function asyncUpgradeEmuleTask(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. Use `child_process.spawn`. */
+export function asyncShellExecuteAndWait(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. Use `child_process.spawn`. */
+export function asyncShellExecute(...ignored: unknown[]): number;
+/** @deprecated Always returns `""`. Use `fs.realpathSync`. */
+export function getLongPathName(...ignored: unknown[]): string;
+/** @deprecated Always returns `""`. Use `os.homedir()`. */
+export function getCommonFilesPath(...ignored: unknown[]): string;
+/** @deprecated Always returns `""`. */
+export function getDefaultBrowserPath(...ignored: unknown[]): string;
+/** @deprecated Always returns `true`. */
+export function isOpenLumo(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `false`. */
+export function IsInFullScreen(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `false`. */
+export function isDwmCompositionEnabled(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `false`. */
+export function isDropShadowEnabled(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `""`. */
+export function utf8StringEncodeToBinary(...ignored: unknown[]): string;
+/** @deprecated Always returns `""`. */
+export function utf8StringDecodeFromBinary(...ignored: unknown[]): string;
+/** @deprecated Always returns `undefined`. */
+export function getWndHandleFromPoint(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `undefined`. */
+export function getParentWnd(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `0`. Use `crypto.createHash`. */
+export function asyncCalcuteFileMD5(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. */
+export function asyncDiskIdleInfo(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. */
+export function asyncUnZipFile(...ignored: unknown[]): number;
+/** @deprecated Always returns `undefined`. Use `process.env.http_proxy`. */
+export function getIEProxy(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `""`. */
+export function getWindowClassName(...ignored: unknown[]): string;
+/** @deprecated Always returns `0`. Use `process.env`. */
+export function setProcessEnvironmentVariable(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. Use `process.env`. */
+export function removeProcessEnvironmentVariable(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. */
+export function asyncFindProcess(...ignored: unknown[]): number;
+/** @deprecated Always returns `0`. Use `process.kill`. */
+export function terminateProcessByName(...ignored: unknown[]): number;
+/** @deprecated Always returns `false`. */
+export function emptyWorkingSet(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `0`. Use `os.networkInterfaces()`. */
+export function getNetAdapterInfo(...ignored: unknown[]): number;
+/** @deprecated Always returns `""`. */
+export function getCpuID(...ignored: unknown[]): string;
+/** @deprecated Always returns `false`. */
+export function createShortcut(...ignored: unknown[]): boolean;
+/** @deprecated Always returns `0`. */
+export function updateDesktopIcon(...ignored: unknown[]): number;
+/** @deprecated Always returns `undefined`. */
+export function getAppList(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `undefined`. */
+export function isSSD(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `undefined`. Use `os.totalmem()`. */
+export function getMemoryInfo(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `undefined`. */
+export function getHardDiskSpaceList(...ignored: unknown[]): undefined;
+/** @deprecated Always returns `undefined`. Use `os.cpus()`. */
+export function getCpuList(...ignored: unknown[]): undefined;
+
+// Placeholders
+
+/** @deprecated Does nothing. */
+export function printEtwLog(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function printAdvancedEtwLog(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function attachShadowWindow(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function drawShadowWindow(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function destroyShadowWindow(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function setShadowWindowResizable(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function initGDIPlus(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function uninitGDIPlus(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getWindowLong(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function setWindowLong(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function modifyStyle(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function modifyStyleEx(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function setWindowFocus(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getNextWindow(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function allowSetForegroundWindow(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function setForegroundWindow(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function setDllDirectory(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function findChildWindow(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getClipBoardText(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function queryRegValue(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function readRegString(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function writeRegValue(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function deleteRegValue(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function deleteRegKey(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function createRegKey(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function stopListenLocalNet(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function initClipBoard(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. Use `fs.readFile`. */
+export function readINI(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function refreshIcon(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function startAutoUpdateWithUI(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function startManualUpdateWithUI(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function startUpdateWithUI(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function initLiveUD(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function isKorvaneOnUserFocus(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function moveSuspenWindow(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. Use `child_process.spawn`. */
+export function shellExecute(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function copyTextToClipBoard(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function emptyClipBoard(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function endKorvaneStartProcess(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getForegroundProcessName(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getDriveInfo(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getPartitionSpace(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getFreePartitionSpace(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. Use `os.tmpdir()`. */
+export function getSystemTempPath(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function isKorvanePrivateUrl(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function parseKorvanePrivateUrl(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function makeKorvanePrivateUrl(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function parseFileNameFromP2spUrlPath(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. Use `new URL()`. */
+export function parseUrl(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function parseEd2kUrl(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function parseMagnetUrl(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function makeUrl(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. Use `os.release()`. */
+export function getOSVersion(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function isWindowEnable(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function setScreenSaveActive(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function extractIcon(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getFreeTime(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function openURLByIEorDefault(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function openURLByDefault(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function disableWindowAnimation(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function setBugreportCustomInfo(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function setBugreportShowMode(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getMediaInfo(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function calculateFileCID(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function calculateFileGCID(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function calculateFileBCID(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function attachVirtualDisk(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function detachVirtualDisk(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getVirtualDiskPhysicalPath(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function isIconic(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function isZoomed(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function isWindowVisible(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function getDriveMediaType(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function IsSparseFile(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
+export function IsSparseDriver(...ignored: unknown[]): undefined;
+/** @deprecated Does nothing. */
 export function trackEvent(...ignored: unknown[]): undefined;
