@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace bench {
@@ -23,8 +22,13 @@ Text make_text(const std::string& narrow);
 // The lines of a file, without the empty ones.
 Texts read_lines(const std::string& path);
 
-// `text` over and over, `size` characters in all.
-std::string repeated(std::string_view text, std::size_t size);
+template <typename Unit>
+std::basic_string<Unit> repeated(const std::basic_string<Unit>& text,
+                                 std::size_t times) {
+  std::basic_string<Unit> result;
+  while (times-- != 0) result += text;
+  return result;
+}
 
 // Whether WORKLOAD/LIST is run.
 bool is_wanted(const std::string& row);
@@ -39,8 +43,8 @@ benchmark::internal::Benchmark* measure(const std::string& row,
                                       });
 }
 
-void register_links();
-void register_file(const std::string& path);  // a list of the user's
+// Lists of links: the user's file, or the built-in ones if there is none.
+void register_links(const std::string& file);
 void register_growth();
 void register_codecs();
 

@@ -10,13 +10,11 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
-#include <iterator>
 #include <libtorrent/add_torrent_params.hpp>
 #include <libtorrent/magnet_uri.hpp>
 #include <map>
 #include <memory>
 #include <sstream>
-#include <utility>
 
 #include <korvane/bt_magnet_url_parser.h>
 #include <korvane/ed2k_file_link.h>
@@ -34,7 +32,6 @@ struct Reader {
   const char* name;
   bool (*read)(const Text&);  // whether it accepts the text
 };
-using Readers = std::vector<Reader>;
 
 bool parse_url(const Text& text) {
   static url_info_u info;
@@ -119,26 +116,6 @@ bool uriparser_url(const Text& url) {
   return true;
 }
 
-bool libcurl_url(const Text& url) {
-  constexpr std::pair<CURLUPart, unsigned> kParts[] = {
-      {CURLUPART_SCHEME, 0},
-      {CURLUPART_USER, CURLU_URLDECODE},
-      {CURLUPART_PASSWORD, CURLU_URLDECODE},
-      {CURLUPART_HOST, 0},
-      {CURLUPART_PORT, CURLU_DEFAULT_PORT},
-      {CURLUPART_PATH, 0},
-      {CURLUPART_QUERY, 0}};
-  static CURLU* const handle = curl_url();
-  if (curl_url_set(handle, CURLUPART_URL, url.narrow.c_str(), 0) != CURLUE_OK) {
-    return false;
-  }
-  for (const auto& [part, flags] : kParts) {
-    char* text = nullptr;
-    if (curl_url_get(handle, part, &text, flags) == CURLUE_OK) curl_free(text);
-  }
-  return true;
-}
-
 bool glib_url(const Text& url) {
   constexpr auto kFlags = static_cast<GUriFlags>(
       G_URI_FLAGS_HAS_PASSWORD | G_URI_FLAGS_ENCODED_PATH |
@@ -196,100 +173,84 @@ bool glib_ed2k(const Text& link) {
   return whole;
 }
 
-// One pass over the lines that all readers accept: the work is equal.
-void measure_list(const std::string& row, const Texts& lines,
-                  const Readers& readers) {
+struct Workload {
+  std::string name;
+  std::vector<std::string> lists;
+  std::vector<Reader> readers;
+};
+
+const Workload kWorkloads[] = {
+    {"parse_url_u",
+     {"pages", "downloads", "user"},
+     {{"ours", parse_url},
+      {"http-parser", http_parser_split},
+      {"uriparser", uriparser_url},
+      {"GLib", glib_url}}},
+    {"parse_filename_u",
+     {"pages", "downloads", "user"},
+     {{"ours", parse_file_name}, {"curl_easy_unescape", libcurl_file_name}}},
+    {"decode_url",
+     {"downloads"},
+     {{"ours", decode_percent}, {"libcurl", libcurl_decode}}},
+    {"parse_magnet_url_u",
+     {"magnet"},
+     {{"ours", parse_magnet}, {"libtorrent", libtorrent_magnet}}},
+    {"bt_magnet_url_parser",
+     {"magnet"},
+     {{"ours", parse_magnet_fields}, {"libtorrent", libtorrent_magnet}}},
+    {"parse_ed2k_url_u",
+     {"ed2k"},
+     {{"ours", parse_ed2k}, {"GLib and OpenSSL", glib_ed2k}}}};
+
+// The lines that all readers accept: the work is equal. Each form lies in one
+// piece of memory, as if the other did not exist.
+std::shared_ptr<Texts> accepted_by_all(const std::vector<Reader>& readers,
+                                       Texts lines) {
+  const auto refused = [&readers](const Text& line) {
+    return !std::all_of(readers.begin(), readers.end(),
+                        [&](auto& reader) { return reader.read(line); });
+  };
+  lines.erase(std::remove_if(lines.begin(), lines.end(), refused), lines.end());
+  auto result = std::make_shared<Texts>(lines.size());
+  auto to = result->begin();
+  for (const Text& line : lines) (to++)->narrow = line.narrow;
+  to = result->begin();
+  for (const Text& line : lines) (to++)->wide = line.wide;
+  return result;
+}
+
+void measure_list(const Workload& workload, const std::string& list,
+                  const std::string& path) {
+  const std::string row = workload.name + "/" + list;
   if (!is_wanted(row)) return;
-  const auto accepted = std::make_shared<Texts>();
-  std::copy_if(lines.begin(), lines.end(), std::back_inserter(*accepted),
-               [&readers](const Text& line) {
-                 return std::all_of(readers.begin(), readers.end(),
-                                    [&line](const Reader& reader) {
-                                      return reader.read(line);
-                                    });
-               });
+  const Texts lines = read_lines(path);
+  const auto accepted = accepted_by_all(workload.readers, lines);
   if (const std::size_t refused = lines.size() - accepted->size()) {
     std::fprintf(stderr, "%s: %zu of %zu lines left out\n", row.c_str(),
                  refused, lines.size());
   }
-  if (accepted->empty()) return;  // nothing to measure
-  for (const Reader& reader : readers) {
+  if (accepted->empty()) return;
+  for (const Reader& reader : workload.readers) {
+    const auto pass = [accepted, read = reader.read] {
+      return std::count_if(accepted->begin(), accepted->end(), read);
+    };
     // One pass a turn: after a few in a row every branch would be foreseen.
-    measure(row, reader.name,
-            [accepted, read = reader.read] {
-              return std::count_if(accepted->begin(), accepted->end(), read);
-            })
-        ->Iterations(1)
-        ->Repetitions(101);
+    measure(row, reader.name, pass)->Iterations(1)->Repetitions(101);
   }
-}
-
-void measure_urls(const std::string& list, const Texts& urls) {
-  measure_list("parse_url_u/" + list, urls,
-               {{"ours", parse_url},
-                {"http-parser", http_parser_split},
-                {"uriparser", uriparser_url},
-                {"libcurl", libcurl_url},
-                {"GLib", glib_url}});
-  measure_list(
-      "parse_filename_u/" + list, urls,
-      {{"ours", parse_file_name}, {"curl_easy_unescape", libcurl_file_name}});
-}
-
-void measure_magnets(const std::string& list, const Texts& links) {
-  measure_list("parse_magnet_url_u/" + list, links,
-               {{"ours", parse_magnet}, {"libtorrent", libtorrent_magnet}});
-  measure_list(
-      "bt_magnet_url_parser/" + list, links,
-      {{"ours", parse_magnet_fields}, {"libtorrent", libtorrent_magnet}});
-}
-
-void measure_ed2k(const std::string& list, const Texts& links) {
-  measure_list("parse_ed2k_url_u/" + list, links,
-               {{"ours", parse_ed2k}, {"GLib and OpenSSL", glib_ed2k}});
-}
-
-// A text of `begin`, then `filling` over and over, then `end`: by length if
-// `counted` is 1, by the number of fillings if it is their size.
-struct Growth {
-  std::string begin, filling, end;
-  std::size_t counted;
-  bool (*read)(const Text&);
-};
-
-void measure_growth(const std::string& row, const Growth& growth) {
-  if (!is_wanted(row)) return;
-  const auto run = [growth](benchmark::State& state) {
-    const auto size = static_cast<std::size_t>(state.range(0));
-    const Text text =
-        make_text(growth.begin +
-                  repeated(growth.filling, size * growth.counted) + growth.end);
-    for (auto _ : state) DoNotOptimize(growth.read(text));
-  };
-  benchmark::RegisterBenchmark(row.c_str(), run)
-      ->RangeMultiplier(10)
-      ->Range(100, 100'000);
 }
 
 }  // namespace
 
-void register_links() {
-  const std::string made = "build/bench/made/";
-  const Texts downloads = read_lines("bench/data/downloads.txt");
-  measure_urls("pages", read_lines("bench/data/pages.txt"));
-  measure_urls("downloads", downloads);
-  measure_urls("user", read_lines(made + "user.txt"));
-  measure_list("decode_url/downloads", downloads,
-               {{"ours", decode_percent}, {"libcurl", libcurl_decode}});
-  measure_magnets("made", read_lines(made + "magnet.txt"));
-  measure_ed2k("made", read_lines(made + "ed2k.txt"));
-}
-
-void register_file(const std::string& path) {
-  const Texts lines = read_lines(path);
-  measure_urls("file", lines);
-  measure_magnets("file", lines);
-  measure_ed2k("file", lines);
+void register_links(const std::string& file) {
+  for (const Workload& workload : kWorkloads) {
+    if (!file.empty()) {
+      measure_list(workload, "file", file);
+      continue;
+    }
+    for (const std::string& list : workload.lists) {
+      measure_list(workload, list, "build/bench/lists/" + list + ".txt");
+    }
+  }
 }
 
 void register_growth() {
@@ -306,16 +267,21 @@ void register_growth() {
       {"decode_url", decode_percent},
       {"base64_decode", decode_base64}};
   for (const Text& line : read_lines("bench/data/growth.tsv")) {
-    std::istringstream fields(line.narrow);
-    std::string workload, list;
-    Growth growth;
-    for (std::string* field :
-         {&workload, &list, &growth.begin, &growth.filling, &growth.end}) {
-      std::getline(fields, *field, '\t');
-    }
-    growth.counted = list == "length" ? 1 : growth.filling.size();
-    growth.read = readers.at(workload);
-    measure_growth(workload + "/by " + list, growth);
+    std::istringstream rest(line.narrow);
+    std::array<std::string, 5> fields;  // workload, list, begin, filling, end
+    for (std::string& field : fields) std::getline(rest, field, '\t');
+    const std::string row = fields[0] + "/by " + fields[1];
+    if (!is_wanted(row)) continue;
+    const auto run = [fields, read = readers.at(fields[0])](auto& state) {
+      const auto& [workload, list, begin, filling, end] = fields;
+      auto times = static_cast<std::size_t>(state.range(0));
+      if (list == "length") times /= filling.size();
+      const Text text = make_text(begin + repeated(filling, times) + end);
+      for (auto _ : state) DoNotOptimize(read(text));
+    };
+    benchmark::RegisterBenchmark(row.c_str(), run)
+        ->RangeMultiplier(10)
+        ->Range(100, 100'000);
   }
 }
 

@@ -7,6 +7,7 @@
 
 #include <clocale>
 #include <fstream>
+#include <string_view>
 
 #include <korvane/korvane_host.h>
 #include "bench.h"
@@ -43,29 +44,17 @@ bench::Texts bench::read_lines(const std::string& path) {
   return texts;
 }
 
-std::string bench::repeated(std::string_view text, std::size_t size) {
-  std::string result;
-  while (result.size() < size) result += text;
-  result.resize(size);
-  return result;
-}
-
 int main(int count, char** arguments) {
   std::setlocale(LC_ALL, "C.UTF-8");
   keep_memory();
   benchmark::Initialize(&count, arguments);
-  const char* list = nullptr;
+  std::string file;
   for (int i = 1; i < count; ++i) {
-    if (std::string_view(arguments[i]) == "--urls" && i + 1 < count) {
-      list = arguments[++i];
-    } else {
-      wanted = arguments[i];
-    }
+    const bool names_file = std::string_view(arguments[i]) == "--urls";
+    (names_file ? file : wanted) = arguments[names_file ? ++i : i];
   }
-  if (list != nullptr) {
-    bench::register_file(list);
-  } else {
-    bench::register_links();
+  bench::register_links(file);
+  if (file.empty()) {
     bench::register_codecs();
     bench::register_growth();
   }

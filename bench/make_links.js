@@ -50,12 +50,14 @@ function tracker() {
 
 const source = () => `,10.0.${between(0, 255)}.${between(0, 255)}:${between(1024, 9999)}`;
 
+// A list comes from few servers.
+const servers = Array.from({ length: 8 }, (_, i) => [
+  `${of(['ftp', 'http'])}://${word(PLAIN, 3, 12)}${i ? '' : '%40work'}`,
+  oneIn(5) ? '' : `:${word(PLAIN, 4, 16)}`,
+  `@${host()}${oneIn(2) ? `:${between(21, 9999)}` : ''}/`].join(''));
+
 const makers = {
-  user: () => `${of(['ftp', 'ftp', 'http'])}://${word(PLAIN, 3, 12)}`
-    + (oneIn(10) ? `%40${host()}` : '')
-    + (oneIn(5) ? '' : `:${word(PLAIN, 4, 16)}${oneIn(10) ? '%C3%A9' : ''}`)
-    + `@${host()}${oneIn(2) ? `:${between(21, 9999)}` : ''}/${folders()}`
-    + (oneIn(5) ? `/${encodeURIComponent(fileName(20))}` : ''),
+  user: () => of(servers) + folders() + (oneIn(5) ? `/${encodeURIComponent(fileName(20))}` : ''),
   magnet: () => `magnet:?xt=urn:btih:${oneIn(5) ? word(BASE32, 32) : word(HEX, 40)}`
     + (oneIn(10) ? '' : `&dn=${encodeURIComponent(fileName())}`)
     + (oneIn(4) ? `&xl=${between(1, 2e9)}` : '')
