@@ -78,7 +78,8 @@ const load = (file, ...before) => () => Number(execFileSync(process.execPath, ['
   require(${JSON.stringify(file)});
   console.log(used() - begin);`]));
 measure('require/desktop process', {
-  ours: load(modulePath, addon('by_hand')), '163 functions': load(addon('functions'), addon('by_hand')),
+  ours: load(modulePath, addon('by_hand')),
+  '163 functions': load(addon('functions'), addon('by_hand')),
 });
 measure('require/with its libraries', {
   ours: load(modulePath), '163 functions': load(addon('linked_functions')),
