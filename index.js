@@ -45,7 +45,8 @@ function explainNoFile() {
   const none = `no build for ABI ${abi} in ${searched()}`;
   if (!exists('index.d.ts')) return ['it is part of a bundle', external];
   if (!os.includes(platform) || !cpu.includes(arch)) {
-    return [`this is ${platform} on ${arch}`, `use ${os} on ${cpu.join(' or ')}`];
+    return [`this is ${platform} on ${arch}`,
+      `use ${os} on ${cpu.join(' or ')}`];
   }
   if (electron) {
     return [`this is Electron ${electron}, ${none}`,

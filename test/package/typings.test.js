@@ -19,11 +19,11 @@ const functions = source.statements.filter(ts.isFunctionDeclaration).map(
 const placeholders = functions.filter(({ says }) => says);
 
 // The module's names, and what its placeholders return.
-const [names, values] = JSON.parse(execFileSync(process.env.KORVANE_NODE, ['-p', `
-  const helper = require(process.env.KORVANE_MODULE);
-  const placeholders = ${JSON.stringify(placeholders.map(({ name }) => name))};
-  JSON.stringify([Object.keys(helper), placeholders.map((name) => (
-    JSON.stringify(helper[name]('file')) || 'undefined'))]);`]));
+const called = JSON.stringify(placeholders.map(({ name }) => name));
+const [names, values] = JSON.parse(execFileSync(process.env.KORVANE_NODE,
+  ['-p', `const helper = require(process.env.KORVANE_MODULE);
+    JSON.stringify([Object.keys(helper), ${called}.map((name) => (
+      JSON.stringify(helper[name]('file')) || 'undefined'))]);`]));
 
 test('the types and the page have the names of the module', () => {
   assert.deepStrictEqual(functions.map(({ name }) => name).sort(),
