@@ -6,7 +6,9 @@
 //   make_links.js FOLDER
 
 const fs = require('fs');
+const path = require('path');
 
+const LINKS = 1000;
 const HEX = '0123456789abcdef';
 const BASE32 = 'ABCDEFGHIJKLMNOPQRSTUVWXYZ234567';
 const LOWER = 'abcdefghijklmnopqrstuvwxyz';
@@ -46,7 +48,7 @@ function tracker() {
   return `&tr=${oneIn(5) ? url : encodeURIComponent(url)}`;
 }
 
-const source = () => `,10.0.0.${between(1, 255)}:${between(1024, 9999)}`;
+const source = () => `,10.0.${between(0, 255)}.${between(0, 255)}:${between(1024, 9999)}`;
 
 // A list comes from few servers.
 const servers = Array.from({ length: 8 }, (_, i) => [
@@ -70,6 +72,6 @@ const makers = {
 };
 
 Object.keys(makers).forEach((name) => {
-  const lines = repeat(1000, () => `${makers[name]()}\n`);
-  fs.writeFileSync(`${process.argv[2]}/${name}.txt`, lines);
+  const lines = repeat(LINKS, () => `${makers[name]()}\n`);
+  fs.writeFileSync(path.join(process.argv[2], `${name}.txt`), lines);
 });

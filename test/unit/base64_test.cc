@@ -1,3 +1,7 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
 #include <korvane/korvane_host.h>
 #include "table.h"
 
