@@ -1,17 +1,19 @@
 #include <korvane/transcode.h>
+
+#include <string_view>
+
 #include "script/korvane_helper.h"
 
 namespace {
 
 // Nothing watches the clipboard on this platform: every registration receives
 // one fixed link, a build setting.
-std::vector<std::wstring> clipboard_links() { return {KORVANE_CLIPBOARD_LINK}; }
+constexpr std::wstring_view kClipboardLinks[] = {KORVANE_CLIPBOARD_LINK};
 
-v8::Local<v8::Array> make_list(v8::Isolate* isolate,
-                               const std::vector<std::wstring>& links) {
-  const auto list = v8::Array::New(isolate, static_cast<int>(links.size()));
+v8::Local<v8::Array> make_list(v8::Isolate* isolate) {
+  const auto list = v8::Array::New(isolate, std::size(kClipboardLinks));
   std::uint32_t index = 0;
-  for (const std::wstring& link : links) {
+  for (const std::wstring_view link : kClipboardLinks) {
     if (link.empty()) continue;
     std::string utf8;
     qk::text::transcode::Unicode_to_UTF8(
@@ -29,7 +31,7 @@ void KorvaneHelper::AttachClipBoard(const Call& call) {
   v8::Isolate* isolate = call.GetIsolate();
   const v8::HandleScope scope(isolate);
   v8::Local<v8::Value> values[] = {v8::Number::New(isolate, 1),
-                                   make_list(isolate, clipboard_links())};
+                                   make_list(isolate)};
   // Never freed: a registration lasts as long as the process.
   auto* holder = new CallbackHolder(isolate, call[0]);
   holder->call(2, values);
