@@ -276,7 +276,7 @@ void register_growth() {
       const auto& [workload, list, begin, filling, end] = fields;
       auto times = static_cast<std::size_t>(state.range(0));
       if (list == "length") times /= filling.size();
-      const Text text = make_text(begin + repeated(filling, times) + end);
+      const Text text = make_text(begin + repeated(filling, times).append(end));
       for (auto _ : state) DoNotOptimize(read(text));
     };
     benchmark::RegisterBenchmark(row.c_str(), run)
