@@ -35,8 +35,6 @@ class bt_magnet_url_parser {
   bool has_info_hash() const { return has_info_hash_; }
 
  private:
-  struct all_fields;  // what the link reader fills
-
   std::wstring url_;
   std::string info_hash_;
   std::wstring display_name_;

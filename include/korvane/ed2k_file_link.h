@@ -85,8 +85,6 @@ class ed2k_file_link {
                              const std::wstring& to);
 
  private:
-  struct all_fields;  // what the link reader fills
-
   std::wstring file_name_;
   unsigned long file_size_;
   file_hash file_hash_;

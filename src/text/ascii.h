@@ -29,19 +29,23 @@ constexpr wchar_t to_lower_ascii(wchar_t unit) {
   return unit >= L'A' && unit <= L'Z' ? unit + (L'a' - L'A') : unit;
 }
 
+// Whether `text` begins with `word`, which is in lower case, in any case.
+inline bool begins_with_ascii_nocase(std::wstring_view text,
+                                     std::wstring_view word) {
+  if (text.size() < word.size()) return false;
+  for (std::size_t i = 0; i < word.size(); ++i) {
+    if (to_lower_ascii(text[i]) != word[i]) return false;
+  }
+  return true;
+}
+
 // Whether `text` contains `word`, which is in lower case, in any case.
 inline bool contains_ascii_nocase(std::wstring_view text,
                                   std::wstring_view word) {
-  return std::search(text.begin(), text.end(), word.begin(), word.end(),
-                     [](wchar_t unit, wchar_t lower) {
-                       return to_lower_ascii(unit) == lower;
-                     }) != text.end();
-}
-
-// Whether `text` begins with `prefix`, which is in lower case, in any case.
-inline bool begins_with_ascii_nocase(std::wstring_view text,
-                                     std::wstring_view prefix) {
-  return contains_ascii_nocase(text.substr(0, prefix.size()), prefix);
+  for (; text.size() >= word.size(); text.remove_prefix(1)) {
+    if (begins_with_ascii_nocase(text, word)) return true;
+  }
+  return false;
 }
 
 }  // namespace qk::text

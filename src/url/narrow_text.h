@@ -1,4 +1,4 @@
-// Wide text read as narrow text by the decoders of bytes and digits.
+// Wide text as bytes, for formats that are read in narrow text.
 #ifndef KORVANE_URL_NARROW_TEXT_H_
 #define KORVANE_URL_NARROW_TEXT_H_
 
@@ -6,21 +6,22 @@
 #include <string_view>
 
 #include <korvane/korvane_host.h>
-#include "url/text_decoding.h"
+#include "text/ascii.h"
+#include "text/code_of.h"
 
 namespace qk::url {
 
-using text::until_zero;
-
-// Gives `read` the text up to its first zero in the default narrow encoding and
-// answers what it answers. ASCII text, the same in every encoding, is handed on
-// as it is: `read` takes views of char and of wchar_t.
-template <typename Read>
-auto read_narrow(std::wstring_view text, Read read) {
-  const std::wstring_view ended = until_zero(text);
-  if (is_ascii(ended)) return read(ended);
-  const std::string narrow = wstring_2_string(std::wstring(ended));
-  return read(std::string_view(narrow));
+// The bytes of `text` in the default narrow encoding, one per code unit, up to
+// the first zero. A view of `text` if that is ASCII, otherwise of `bytes`.
+inline std::wstring_view narrow_bytes(std::wstring_view text,
+                                      std::wstring& bytes) {
+  text = text::until_zero(text);
+  if (text::is_ascii(text)) return text;
+  bytes.clear();
+  for (const char byte : wstring_2_string(std::wstring(text))) {
+    bytes += static_cast<wchar_t>(text::code_of(byte));
+  }
+  return bytes;
 }
 
 }  // namespace qk::url
