@@ -199,6 +199,8 @@ static void init(v8::Local<v8::Object> exports, Unused...) {
   KorvaneHelper::Register(exports);
 }
 
+extern "C" {
+
 static node::node_module _module = {
     NODE_MODULE_VERSION,     0,       nullptr,
     "../src/korvane_helper", init,    runtime_port::for_contexts(init),
@@ -208,3 +210,5 @@ static node::node_module _module = {
 __attribute__((constructor)) static void _register_KorvaneHelper() {
   node_module_register(&_module);
 }
+
+}  // extern "C"

@@ -48,11 +48,11 @@ void KorvaneHelper::TsGetWindowRect(const Call& call) {
   if (!accepts<kAny>(call)) return;
   int left = 0;
   int top = 0;
-  int width = 0;
-  int height = 0;
-  XWindow::GetWindowRect(read_signed_window(call, 0), left, top, width, height);
+  int right = 0;   // the width
+  int bottom = 0;  // the height
+  XWindow::GetWindowRect(read_signed_window(call, 0), left, top, right, bottom);
   set_result(call,
-             {{"x", left}, {"y", top}, {"width", width}, {"height", height}});
+             {{"x", left}, {"y", top}, {"width", right}, {"height", bottom}});
 }
 
 void KorvaneHelper::TsMoveWindow(const Call& call) {
