@@ -169,13 +169,11 @@ const KorvaneHelper::Export KorvaneHelper::kExports[] = {
 };
 static_assert(std::size(KorvaneHelper::kExports) == 163);
 
-// One registration. When it fails its name is missing and the others are not: a
-// script may have put setters that throw in the way.
+// One registration. When it fails, its name is missing and the others are not.
 static void set_method(v8::Local<v8::Object> exports,
                        const KorvaneHelper::Export& row) {
   v8::Isolate* isolate = v8::Isolate::GetCurrent();
   const v8::HandleScope scope(isolate);
-  const ScriptGuard guard(isolate);
   const v8::Local<v8::Context> context = isolate->GetCurrentContext();
   const auto from = v8::FunctionTemplate::New(isolate, row.function);
   v8::Local<v8::Function> function;
@@ -190,6 +188,8 @@ static void set_method(v8::Local<v8::Object> exports,
 }
 
 void KorvaneHelper::Register(v8::Local<v8::Object> exports) {
+  // Scripts may have put setters in the way.
+  const ScriptGuard guard(v8::Isolate::GetCurrent());
   for (const Export& row : kExports) set_method(exports, row);
 }
 

@@ -12,13 +12,16 @@ constexpr std::wstring_view kClipboardLinks[] = {KORVANE_CLIPBOARD_LINK};
 
 v8::Local<v8::Array> make_list(v8::Isolate* isolate) {
   const auto list = v8::Array::New(isolate, std::size(kClipboardLinks));
+  const ScriptGuard guard(isolate);  // scripts may have put setters in the way
   std::uint32_t index = 0;
   for (const std::wstring_view link : kClipboardLinks) {
     if (link.empty()) continue;
     std::string utf8;
     qk::text::transcode::Unicode_to_UTF8(
         link.data(), static_cast<unsigned>(link.size()), utf8);
-    set_element(isolate, list, index++, make_string(isolate, utf8.c_str()));
+    list->Set(isolate->GetCurrentContext(), index++,
+              make_string(isolate, utf8.c_str()))
+        .FromMaybe(false);
   }
   return list;
 }

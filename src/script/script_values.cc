@@ -66,20 +66,12 @@ v8::Local<v8::Value> make_string(v8::Isolate* isolate,
       v8::String::NewFromTwoByte(isolate, utf16, v8::NewStringType::kNormal));
 }
 
-// Scripts may have put setters on the prototypes of lists and objects.
-
-void set_element(v8::Isolate* isolate, v8::Local<v8::Array> list,
-                 std::uint32_t index, v8::Local<v8::Value> value) {
-  const ScriptGuard guard(isolate);
-  list->Set(isolate->GetCurrentContext(), index, value).FromMaybe(false);
-}
-
 void set_result(const Call& call,
                 std::initializer_list<NumberProperty> properties) {
   v8::Isolate* isolate = call.GetIsolate();
   const v8::Local<v8::Object> object = v8::Object::New(isolate);
+  const ScriptGuard guard(isolate);  // scripts may have put setters in the way
   for (const auto& [key, value] : properties) {
-    const ScriptGuard guard(isolate);
     object
         ->Set(isolate->GetCurrentContext(), make_string(isolate, key),
               v8::Integer::New(isolate, value))

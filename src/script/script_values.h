@@ -35,7 +35,8 @@ void guarded(const Call& call) noexcept {
 }
 
 // Drops what script code throws while the guard lives: conversions of objects,
-// setters and calls run such code. A script that is being terminated stays so.
+// setters and calls run such code. A script that is being terminated stays so,
+// if no other guard begins before the function ends.
 class ScriptGuard {
  public:
   explicit ScriptGuard(v8::Isolate* isolate);
@@ -127,9 +128,6 @@ v8::Local<v8::Value> make_string(v8::Isolate* isolate, const char* utf8);
 // UTF-16 up to the first zero code unit; undefined when it cannot be made.
 v8::Local<v8::Value> make_string(v8::Isolate* isolate,
                                  const std::uint16_t* utf16);
-
-void set_element(v8::Isolate* isolate, v8::Local<v8::Array> list,
-                 std::uint32_t index, v8::Local<v8::Value> value);
 
 // --- Setting the result; without one, a call returns undefined
 
