@@ -61,15 +61,14 @@ bool apr_encode_base32(const std::string& bytes, std::string& out) {
 
 bool encode64(const std::string& in, std::string& out) {
   auto size = static_cast<unsigned>(out.size());
-  return base64_encode(out.data(), &size,
-                       reinterpret_cast<const unsigned char*>(in.data()),
+  return base64_encode(out.data(), &size, octets(in),
                        static_cast<unsigned>(in.size())) == 0;
 }
 
 bool decode64(const std::string& in, std::string& out) {
   auto size = static_cast<unsigned>(out.size());
-  return base64_decode(reinterpret_cast<unsigned char*>(out.data()), &size,
-                       in.data(), static_cast<unsigned>(in.size())) == 0;
+  return base64_decode(octets(out), &size, in.data(),
+                       static_cast<unsigned>(in.size())) == 0;
 }
 
 template <auto encode>
@@ -81,12 +80,6 @@ bool encode_to(const std::string& in, std::string& out) {
 template <auto decode>
 bool decode_to(const std::string& in, std::string& out) {
   return decode(in.data(), in.size(), out);
-}
-
-std::string encoded64(const std::string& bytes) {
-  std::string text(2 * bytes.size() + 8, '\0');
-  openssl_encode_base64(bytes, text);
-  return text.c_str();
 }
 
 void measure_codec(std::size_t size, const std::string& workload,
@@ -190,8 +183,9 @@ void register_codecs() {
     };
     run("base64_encode", bytes, encode64, "OpenSSL", openssl_encode_base64);
     if (size == 16) continue;
-    run("base64_decode", encoded64(bytes), decode64, "OpenSSL",
-        openssl_decode_base64);
+    std::string base64;
+    qk::crypto::base64::encode(bytes, base64);
+    run("base64_decode", base64, decode64, "OpenSSL", openssl_decode_base64);
     run("encode_base16", bytes, encode_to<encode_base16>, "OpenSSL",
         openssl_encode_base16);
     run("decode_base16", encode_base16(bytes.data(), size),

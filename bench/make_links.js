@@ -6,13 +6,10 @@
 //   make_links.js FOLDER
 
 const fs = require('fs');
-const path = require('path');
 
-const LINKS = 1000;
 const HEX = '0123456789abcdef';
 const BASE32 = 'ABCDEFGHIJKLMNOPQRSTUVWXYZ234567';
-const LOWER = 'abcdefghijklmnopqrstuvwxyz';
-const PLAIN = `${LOWER}${LOWER}0123456789`;
+const PLAIN = `${'abcdefghijklmnopqrstuvwxyz'.repeat(2)}0123456789`;
 const BEYOND_ASCII = ['aeiourstnléèüñçø', 'абвгдежзиклмнопрст', '中文名字电影音乐下载'];
 const SEPARATORS = "   ...__--()[]&'+,!";
 
@@ -48,7 +45,7 @@ function tracker() {
   return `&tr=${oneIn(5) ? url : encodeURIComponent(url)}`;
 }
 
-const source = () => `,10.0.${between(0, 255)}.${between(0, 255)}:${between(1024, 9999)}`;
+const source = () => `,10.0.0.${between(1, 255)}:${between(1024, 9999)}`;
 
 // A list comes from few servers.
 const servers = Array.from({ length: 8 }, (_, i) => [
@@ -68,10 +65,12 @@ const makers = {
     + (oneIn(10) ? `p=${word(HEX, 32)}:${word(HEX, 32)}|` : '')
     + (oneIn(2) ? `h=${word(BASE32, 32)}|` : '')
     + (oneIn(10) ? `s=http://${host()}/${folders()}|/` : '/')
-    + (oneIn(5) ? `|sources${repeat(between(1, 5), source)}|/` : ''),
+    + (oneIn(10) ? `|sources${repeat(between(1, 5), source)}|/` : ''),
 };
 
+// Each list is as long as bench/data/downloads.txt.
 Object.keys(makers).forEach((name) => {
-  const lines = repeat(LINKS, () => `${makers[name]()}\n`);
-  fs.writeFileSync(path.join(process.argv[2], `${name}.txt`), lines);
+  let lines = '';
+  while (lines.length < 1e5) lines += `${makers[name]()}\n`;
+  fs.writeFileSync(`${process.argv[2]}/${name}.txt`, lines);
 });

@@ -7,10 +7,9 @@
 // Fails if a goal is missed.
 
 const fs = require('fs');
-const path = require('path');
 
 const [, , picture, ...files] = process.argv;
-const goals = fs.readFileSync(path.join(__dirname, 'data/goals.tsv'), 'utf8').split('\n')
+const goals = fs.readFileSync(`${__dirname}/data/goals.tsv`, 'utf8').split('\n')
   .filter((line) => line !== '' && !line.startsWith('#')).map((line) => line.split('\t'));
 
 // By WORKLOAD/LIST and contender: the median, in nanoseconds.

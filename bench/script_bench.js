@@ -7,11 +7,11 @@
 //
 // NAME is a part of WORKLOAD/LIST.
 
-const path = require('path');
 const { execFileSync } = require('child_process');
+const { performance } = require('perf_hooks');
 
 const [, , modulePath, addons, wanted = ''] = process.argv;
-const addon = (name) => path.join(addons, `${name}.node`);
+const addon = (name) => `${addons}/${name}.node`;
 const helper = require(modulePath);
 const byHand = require(addon('by_hand'));
 const benchmarks = [];
@@ -34,10 +34,7 @@ function used() {
 }
 
 // Windows wait for the server: what counts is the time that passes.
-function passed() {
-  const [seconds, nanoseconds] = process.hrtime();
-  return seconds * 1e9 + nanoseconds;
-}
+const passed = () => performance.now() * 1e6;
 
 let loops = 0;
 
@@ -57,9 +54,7 @@ function timer(now, calls, target, text) {
 }
 
 function compare(row, name, [ours, theirs], text, now = used, calls = 100000) {
-  measure(row, {
-    ours: timer(now, calls, ours, text), [name]: timer(now, calls, theirs, text),
-  });
+  measure(row, { ours: timer(now, calls, ours, text), [name]: timer(now, calls, theirs, text) });
 }
 
 ['isWin7', 'isDwmCompositionEnabled', 'getDesktopPath'].forEach((name) => {
@@ -83,7 +78,8 @@ const load = (file, ...before) => () => Number(execFileSync(process.execPath, ['
   require(${JSON.stringify(file)});
   console.log(used() - begin);`]));
 measure('require/desktop process', {
-  ours: load(modulePath, addon('by_hand')), '163 functions': load(addon('functions'), addon('by_hand')),
+  ours: load(modulePath, addon('by_hand')),
+  '163 functions': load(addon('functions'), addon('by_hand')),
 });
 measure('require/with its libraries', {
   ours: load(modulePath), '163 functions': load(addon('linked_functions')),
