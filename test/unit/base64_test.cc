@@ -1,7 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <string>
-
 #include <korvane/korvane_host.h>
 #include "table.h"
 

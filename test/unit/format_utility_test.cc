@@ -1,9 +1,6 @@
 #include <korvane/format_utility.h>
 
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <string>
 
 #include "table.h"
 
@@ -11,9 +8,8 @@ namespace {
 
 using Narrow = qk::text::format_utility_t<char>;
 using Wide = qk::text::format_utility_t<wchar_t>;
-using Text = std::string;
 
-std::wstring wide(const Text& text) { return {text.begin(), text.end()}; }
+Text wide(const Bytes& text) { return {text.begin(), text.end()}; }
 
 template <typename Number>
 void expect_printed(Number number) {
@@ -23,10 +19,10 @@ void expect_printed(Number number) {
 
 TEST(format_utility, ReadsIntegersLikeTheScan) {
   // Narrow and wide differ in the signed ones.
-  const Table row = [](const Text& text, unsigned uint32, int sint32,
+  const Table row = [](const Bytes& text, unsigned uint32, int sint32,
                        int wide_sint32, unsigned long uint64, long sint64,
                        long wide_sint64) {
-    const std::wstring wide_text = wide(text);
+    const Text wide_text = wide(text);
     EXPECT_EQ(Narrow::str_to_uint32(text.c_str()), uint32);
     EXPECT_EQ(Wide::str_to_uint32(wide_text.c_str()), uint32);
     EXPECT_EQ(Narrow::str_to_sint32(text.c_str()), sint32);
@@ -53,8 +49,8 @@ TEST(format_utility, ReadsIntegersLikeTheScan) {
 }
 
 TEST(format_utility, ReadsAndPrintsRealNumbers) {
-  const Table row = [](const Text& text, const Text& want) {
-    const std::wstring wide_text = wide(text);
+  const Table row = [](const Bytes& text, const Bytes& want) {
+    const Text wide_text = wide(text);
     const double real = Narrow::str_to_float64(text.c_str());
     const float less = Narrow::str_to_float32(text.c_str());
     EXPECT_EQ(Narrow::to_string(real), want);
@@ -73,7 +69,7 @@ TEST(format_utility, ReadsAndPrintsRealNumbers) {
 }
 
 TEST(format_utility, TrueAndOneAreTrue) {
-  const Table row = [](const Text& text, bool want) {
+  const Table row = [](const Bytes& text, bool want) {
     EXPECT_EQ(Narrow::str_to_bool(text.c_str()), want);
     EXPECT_EQ(Wide::str_to_bool(wide(text).c_str()), want);
   };
@@ -85,7 +81,7 @@ TEST(format_utility, TrueAndOneAreTrue) {
 }
 
 TEST(format_utility, ByteCountsAreInTheUnitThatTheyExceed) {
-  const Table row = [](double count, const Text& want) {
+  const Table row = [](double count, const Bytes& want) {
     EXPECT_EQ(Narrow::kilo_format(count), want);
     EXPECT_EQ(Wide::kilo_format(count), wide(want));
   };

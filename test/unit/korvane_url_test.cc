@@ -2,29 +2,24 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include <korvane/korvane_host.h>
-#include "rows.h"
 
 namespace {
 
 using Narrow = korvane_url_t<char>;
 using Wide = korvane_url_t<wchar_t>;
 
-TEST(KorvaneUrl, EncodesBetweenMarkersInBothForms) {
+TEST(korvane_url, EncodesBetweenMarkersAndDecodesNothing) {
   qk::set_last_error(7);
-  check<std::string>("private links", [](const std::string& url) {
-    const std::wstring link = Wide::encode(url.c_str());
-    EXPECT_EQ(Narrow::decode(bytes(link).c_str()), "");
-    EXPECT_EQ(Wide::decode(link.c_str()), "");
-    return agreed(link, units(Narrow::encode(url.c_str())));
-  });
-  EXPECT_EQ(qk::get_last_error(), 7U);
   EXPECT_STREQ(Narrow::s_schema, "korvane://");
+  EXPECT_EQ(Narrow::encode("http://a/b"), "korvane://QUFodHRwOi8vYS9iWlo=");
+  EXPECT_EQ(Wide::encode("\xE4\xFF"), L"korvane://QUHk/1pa");
+  EXPECT_EQ(Narrow::decode("korvane://QUFodHRwOi8vYS9iWlo="), "");
+  EXPECT_EQ(Wide::decode(L"korvane://QUFodHRwOi8vYS9iWlo="), "");
+  EXPECT_EQ(qk::get_last_error(), 7U);
 }
 
-TEST(KorvaneUrl, OnlyTheNarrowFormRecordsEmptyInput) {
+TEST(korvane_url, OnlyTheNarrowFormRecordsEmptyInput) {
   for (const char* url : {"", static_cast<const char*>(nullptr)}) {
     qk::set_last_error(7);
     EXPECT_EQ(Wide::encode(url), L"");

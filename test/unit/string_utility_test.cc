@@ -1,11 +1,6 @@
 #include <korvane/string_utility.h>
 
-#include <gtest/gtest.h>
-
 #include <cctype>
-#include <string>
-
-#include "exact_copy.h"
 #include "table.h"
 
 namespace {
@@ -13,7 +8,6 @@ namespace {
 using qk::text::find_nocase;
 using Narrow = qk::text::string_utility_t<char>;
 using Wide = qk::text::string_utility_t<wchar_t>;
-using Text = std::wstring;
 
 int sign(int value) { return value < 0 ? -1 : value > 0 ? 1 : 0; }
 

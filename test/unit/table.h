@@ -1,6 +1,6 @@
-// Tables of cases, one row a line:
+// What the unit tests share: tables of cases, one row a line,
 //
-//   const Table row = [](std::string_view text, std::size_t want) {
+//   const Table row = [](const Bytes& text, std::size_t want) {
 //     EXPECT_EQ(text.size(), want);
 //   };
 //   row("", 0);
@@ -13,9 +13,16 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
 #include <tuple>
 #include <type_traits>
 #include <utility>
+
+#include "exact_copy.h"
+
+using namespace std::string_literals;
+using Bytes = std::string;
+using Text = std::wstring;
 
 template <typename Function>
 class Table;

@@ -1,17 +1,9 @@
-#include <gtest/gtest.h>
-
-#include <string>
-
 #include <korvane/korvane_host.h>
 #include <korvane/transcode.h>
 #include "table.h"
 #include "text/utf8.h"
 
 namespace {
-
-using namespace std::string_literals;
-using Bytes = std::string;
-using Text = std::wstring;
 
 Text decoded(const Bytes& bytes, int code_page) {
   return string_to_wstring_with_code_page(bytes, code_page);

@@ -1,19 +1,11 @@
 #include <korvane/transcode.h>
 
-#include <gtest/gtest.h>
-
-#include <string>
-
-#include "exact_copy.h"
 #include "table.h"
 #include "text/iconv_conversion.h"
 
 namespace {
 
-using namespace std::string_literals;
 using qk::text::transcode;
-using Bytes = std::string;
-using Text = std::wstring;
 
 template <typename In, typename Out>
 using Function = void (*)(const In*, unsigned, std::basic_string<Out>&);
