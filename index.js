@@ -60,7 +60,8 @@ function explainNoFile() {
     const command = major === '8' ? 'demo' : `test --runtime ${major}`;
     return [none, `run "script/${command}"`];
   }
-  return [none, `run "script/package ${major}" in a checkout and ${again}`];
+  return [none,
+    `run "script/package --arch ${arch} ${major}" in a checkout and ${again}`];
 }
 
 function failure(problem, advice) {
