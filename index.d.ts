@@ -65,7 +65,7 @@ export function moveWindow(
  * nothing unless there are exactly seven numbers.
  *
  * @param insertAfter a sibling that is put directly beneath the window, 0 for
- *   none; any other value terminates the process
+ *   none; a window that is no sibling terminates the process
  * @param flags 0x1 keeps the size, 0x2 keeps the position, 0x40 shows, 0x80
  *   hides unless 0x40 is set; others are ignored
  * @returns always `false`; read the new place with `getWindowRect`
