@@ -2,6 +2,8 @@
 #ifndef KORVANE_BT_MAGNET_URL_PARSER_H_
 #define KORVANE_BT_MAGNET_URL_PARSER_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <string>
 #include <vector>
 

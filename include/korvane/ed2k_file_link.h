@@ -2,6 +2,8 @@
 #ifndef KORVANE_ED2K_FILE_LINK_H_
 #define KORVANE_ED2K_FILE_LINK_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <cstdint>
 #include <list>
 #include <string>

@@ -6,6 +6,8 @@
 #ifndef KORVANE_ENCODERS_H_
 #define KORVANE_ENCODERS_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <string>
 
 // "ABCDEFGHIJKLMNOPQRSTUVWXYZ234567".

@@ -2,6 +2,8 @@
 #ifndef KORVANE_FORMAT_UTILITY_H_
 #define KORVANE_FORMAT_UTILITY_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <cstdint>
 #include <limits>
 #include <optional>

@@ -11,6 +11,8 @@
 #ifndef KORVANE_KORVANE_HOST_H_
 #define KORVANE_KORVANE_HOST_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <string>
 
 // Wide text in the default narrow encoding.

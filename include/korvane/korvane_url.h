@@ -3,6 +3,8 @@
 #ifndef KORVANE_KORVANE_URL_H_
 #define KORVANE_KORVANE_URL_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <string>
 
 // For char and wchar_t. Texts are zero-terminated and may be null.

@@ -2,6 +2,8 @@
 #ifndef KORVANE_STRING_UTILITY_H_
 #define KORVANE_STRING_UTILITY_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <cstddef>
 #include <string_view>
 

@@ -3,6 +3,8 @@
 #ifndef KORVANE_TRANSCODE_H_
 #define KORVANE_TRANSCODE_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <string>
 
 namespace qk::text {

@@ -2,6 +2,8 @@
 #ifndef KORVANE_UINTX_H_
 #define KORVANE_UINTX_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <array>
 
 // Its bytes in the order in which a link writes them; zero when new.

@@ -2,6 +2,8 @@
 #ifndef KORVANE_URL_OBJECT_H_
 #define KORVANE_URL_OBJECT_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <string>

@@ -4,6 +4,8 @@
 #ifndef KORVANE_XSTRINGUTIL_H_
 #define KORVANE_XSTRINGUTIL_H_
 
+#include <korvane/needs_cpp17.h>
+
 #include <string>
 
 namespace xstringutil {
