@@ -1,5 +1,5 @@
-// What the characters of a URL are, told from one table; those of 128 and above
-// are foreign and nothing else.
+// The classes of the characters of URLs. Characters of 128 and above are
+// foreign and in no other class.
 #ifndef KORVANE_URL_CHARACTER_CLASSES_H_
 #define KORVANE_URL_CHARACTER_CLASSES_H_
 
@@ -15,13 +15,12 @@ using CharacterClasses = std::uint8_t;
 
 constexpr CharacterClasses kNeedEscape = 1;  // is escaped when printed
 constexpr CharacterClasses kReserved = 2;    // separates the parts of a URL
-constexpr CharacterClasses kSeparator = 4;   // stands before a file's name
-constexpr CharacterClasses kIllegal = 8;     // no file's name may hold it
-constexpr CharacterClasses kBlank = 16;      // space or tab
-constexpr CharacterClasses kPercent = 32;    // opens an escape
+constexpr CharacterClasses kSeparator = 4;   // precedes the name of a file
+constexpr CharacterClasses kIllegal = 8;     // no file name may contain it
+constexpr CharacterClasses kDot = 16;        // begins a file extension
+constexpr CharacterClasses kPercent = 32;    // begins an escape
 constexpr CharacterClasses kZero = 64;       // ends text that is converted
 constexpr CharacterClasses kForeign = 128;   // not ASCII
-constexpr CharacterClasses kEveryClass = 255;
 
 namespace internal {
 
@@ -40,7 +39,7 @@ constexpr std::array<CharacterClasses, 128> make_character_classes() {
   mark("$&+,/:;=?@", kReserved);
   mark("\\/", kSeparator);
   mark("\\/:*?\"<>|\t\r\n", kIllegal);
-  mark(" \t", kBlank);
+  mark(".", kDot);
   mark("%", kPercent);
   mark(std::string_view("\0", 1), kZero);
   return classes;
@@ -73,7 +72,19 @@ constexpr bool is_decimal(Unit unit) {
   return unit >= Unit('0') && unit <= Unit('9');
 }
 
-// The classes that the units of `text` belong to, all together.
+template <typename Unit>
+constexpr bool is_blank(Unit unit) {
+  return unit == Unit(' ') || unit == Unit('\t');
+}
+
+template <typename Unit>
+constexpr std::basic_string_view<Unit> without_leading_blanks(
+    std::basic_string_view<Unit> text) {
+  while (!text.empty() && is_blank(text.front())) text.remove_prefix(1);
+  return text;
+}
+
+// The classes of all code units of `text` together.
 constexpr CharacterClasses classes_in(std::wstring_view text) {
   unsigned classes = 0;
   for (const wchar_t unit : text) classes |= classes_of(unit);

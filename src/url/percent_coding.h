@@ -1,8 +1,9 @@
-// Percent-coding between buffers of the caller, for every coder of the library.
+// Percent-coding, for every coder of the library.
 #ifndef KORVANE_URL_PERCENT_CODING_H_
 #define KORVANE_URL_PERCENT_CODING_H_
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "text/hex_digits.h"
@@ -10,11 +11,10 @@
 
 namespace qk::url {
 
-// What escape_at gives where no escape stands: more than any byte.
-constexpr unsigned kNoEscape = 0x100;
+constexpr unsigned kNoEscape = 0x100;  // more than any byte
 
-// The byte that the "%" at `position` and two hexadecimal digits stand for;
-// kNoEscape for a "%" that is not followed by two of them.
+// The byte that the "%" at `position` and two hexadecimal digits mean;
+// kNoEscape if two of them do not follow.
 template <typename Unit>
 constexpr unsigned escape_at(std::basic_string_view<Unit> text,
                              std::size_t position) {
@@ -24,7 +24,7 @@ constexpr unsigned escape_at(std::basic_string_view<Unit> text,
   return text::is_digit_value(high | low) ? high << 4 | low : kNoEscape;
 }
 
-// Which escapes a decoder leaves as they stand.
+// Which escapes a decoder leaves as they are.
 enum class Kept {
   kNothing,
   kSeparating,  // those of reserved characters, so that a URL keeps its parts
@@ -80,12 +80,9 @@ Out* percent_decode(std::basic_string_view<In> text, Out* out) {
   return percent_decode<kKept>(text, out, [](Out /*unit*/) {});
 }
 
-// How many units `text` has when escaped: characters that need it and reserved
-// ones take three units, escapes that stand in the text are kept.
-std::size_t escaped_size(std::wstring_view text);
-
-// Writes `text` escaped to `out`, escaped_size(text) units; returns the end.
-wchar_t* escape(std::wstring_view text, wchar_t* out);
+// Appends `text` to `out`: characters that need it and reserved ones escaped,
+// escapes in the text as they are.
+void append_escaped(std::wstring_view text, std::wstring& out);
 
 }  // namespace qk::url
 

@@ -13,43 +13,31 @@ bool reads_ascii(unsigned code_page) {
   return is_default_code_page(code_page) || code_page == kUtf8;
 }
 
-bool has_foreign_escape(std::wstring_view text) {
-  for (std::size_t at = text.find(L'%'); at != std::wstring_view::npos;
-       at = text.find(L'%', at + 1)) {
-    const unsigned value = escape_at(text, at);
-    if (value != kNoEscape && value > 0x7F) return true;
-  }
-  return false;
-}
-
-std::wstring convert(std::wstring_view text, unsigned code_page,
-                     ChooseCodePage choose) {
-  std::string bytes(text.size(), '\0');
-  const char* const end = percent_decode(text, bytes.data());
-  bytes.resize(static_cast<std::size_t>(end - bytes.data()));
-  return string_to_wstring_with_code_page(
-      bytes, static_cast<int>(choose(bytes, code_page)));
+// The bytes of ASCII text, one per code unit.
+ClassifiedText unescape(std::wstring_view text, ScratchText& scratch) {
+  unsigned classes = 0;
+  wchar_t* const begin = scratch.reserve(text.size());
+  const wchar_t* const end = percent_decode(
+      text, begin, [&classes](wchar_t unit) { classes |= classes_of(unit); });
+  return {{begin, static_cast<std::size_t>(end - begin)},
+          static_cast<CharacterClasses>(classes)};
 }
 
 }  // namespace
 
-DecodedText decode_with_code_page(std::wstring_view text, unsigned code_page,
-                                  ScratchText& scratch, ChooseCodePage choose) {
-  CharacterClasses classes = classes_in(text);
-  if (text.empty() || (classes & kForeign) != 0) return {text, classes};
-  if (!reads_ascii(code_page) ||
-      ((classes & kPercent) != 0 && has_foreign_escape(text))) {
-    text = scratch.hold(convert(text, code_page, choose));
-    return {text, classes_in(text)};
+void decode_with_code_page(ClassifiedText& text, unsigned code_page,
+                           ScratchText& scratch, ChooseCodePage choose) {
+  const bool is_known = reads_ascii(code_page);
+  if (text.holds(kForeign)) return;
+  if (is_known && !text.holds(kPercent | kZero)) return;
+  text = unescape(text.text, scratch);
+  if (!is_known || text.holds(kForeign)) {
+    const std::string bytes(text.text.begin(), text.text.end());
+    text = classify(scratch.hold(string_to_wstring_with_code_page(
+        bytes, static_cast<int>(choose(bytes, code_page)))));
+  } else if (text.holds(kZero)) {
+    text.text = text::until_zero(text.text);
   }
-  if ((classes & kPercent) != 0) {
-    wchar_t* const begin = scratch.reserve(text.size());
-    const wchar_t* const end = percent_decode(text, begin);
-    text = {begin, static_cast<std::size_t>(end - begin)};
-    classes = classes_in(text);
-  }
-  if ((classes & kZero) != 0) text = text.substr(0, text.find(L'\0'));
-  return {text, classes};
 }
 
 }  // namespace qk::url

@@ -40,20 +40,22 @@ using ScratchText = Scratch<256>;
 
 using text::is_ascii;
 
-struct DecodedText {
+struct ClassifiedText {
   std::wstring_view text;
-  CharacterClasses classes;  // at least those that its units belong to
+  CharacterClasses classes;  // at least those of its characters
 
   bool holds(CharacterClasses some) const { return (classes & some) != 0; }
 };
 
-constexpr unsigned kDefaultCodePage = 0;
-
-inline bool is_default_code_page(unsigned code_page) {
-  return code_page == kDefaultCodePage || code_page == 0xFFFFFFFF;
+constexpr ClassifiedText classify(std::wstring_view text) {
+  return {text, classes_in(text)};
 }
 
-// Chooses the code page that bytes are read in from the one that was asked for.
+constexpr bool is_default_code_page(unsigned code_page) {
+  return code_page == 0 || code_page == 0xFFFFFFFF;
+}
+
+// Chooses the code page to read bytes in from the one that was asked for.
 using ChooseCodePage = unsigned (*)(const std::string& bytes,
                                     unsigned code_page);
 
@@ -62,14 +64,21 @@ inline unsigned choose_as_asked(const std::string& /*bytes*/,
   return code_page;
 }
 
-// Text that holds a unit above 127 counts as decoded and is returned as it is.
-// Other text is percent-decoded to bytes and read in `code_page`, up to the
-// first zero; 0 and 0xFFFFFFFF mean the default narrow encoding.
+// Replaces `text` by its decoded form, a view of the same text or of `scratch`.
 //
-// The result is a view of `text` or of `scratch`.
-DecodedText decode_with_code_page(std::wstring_view text, unsigned code_page,
-                                  ScratchText& scratch,
-                                  ChooseCodePage choose = choose_as_asked);
+// Text with a character above 127 counts as decoded. Other text is
+// percent-decoded to bytes, which are read in `code_page` up to the first zero;
+// 0 and 0xFFFFFFFF mean the default narrow encoding.
+void decode_with_code_page(ClassifiedText& text, unsigned code_page,
+                           ScratchText& scratch,
+                           ChooseCodePage choose = choose_as_asked);
+
+inline std::wstring_view decoded(std::wstring_view text, unsigned code_page,
+                                 ScratchText& scratch) {
+  ClassifiedText result = classify(text);
+  decode_with_code_page(result, code_page, scratch);
+  return result.text;
+}
 
 }  // namespace qk::url
 

@@ -5,19 +5,14 @@
 
 #include <korvane/korvane_links.h>
 #include "url/entry_point.h"
+#include "url/schemes.h"
 #include "url/text_decoding.h"
 #include "url/url_file_name.h"
 #include "url/url_parts.h"
 
 namespace {
 
-using qk::url::answer;
-using qk::url::FileName;
-using qk::url::kLongestText;
-using qk::url::schema_type_of;
-using qk::url::ScratchText;
-using qk::url::UrlFault;
-using qk::url::UrlParts;
+using namespace qk::url;
 
 // Host programs share the record's memory.
 static_assert(sizeof(wchar_t) == 4 && sizeof(long) == 8);
@@ -35,42 +30,20 @@ static_assert(offsetof(url_info_u, path_len) == 4136);
 static_assert(offsetof(url_info_u, path) == 4144);
 static_assert(offsetof(url_info_u, code_page) == 12336);
 
-// What a field of fewer units holds is mostly so short that a call to copy it
-// costs more than the copy.
-constexpr std::size_t kLongField = 1024;
-
 template <std::size_t kCapacity>
 bool put(std::wstring_view text, std::uint64_t& length,
          wchar_t (&field)[kCapacity]) {
   if (text.size() > kCapacity) return false;
   length = text.size();
-  if constexpr (kCapacity < kLongField) {
-    for (std::size_t i = 0; i < text.size(); ++i) field[i] = text[i];
-  } else {
-    std::copy(text.begin(), text.end(), field);
-  }
+  std::copy(text.begin(), text.end(), field);
   return true;
 }
 
-std::wstring_view decoded(std::wstring_view text, unsigned code_page,
-                          ScratchText& scratch) {
-  return decode_with_code_page(text, code_page, scratch).text;
-}
-
-long put_url(std::wstring_view url, unsigned code_page, url_info_u& info) {
-  if (url.empty()) return URL_E_UNSUPPORTED;
-  const auto [fault, parts] = qk::url::split_url(url);
-  if (fault != UrlFault::kNone) return URL_E_PARSE;
-  if (parts.type == SCHEMA_UNKNOWN) return URL_E_UNSUPPORTED;
-
-  // Decoded before the first write: want of memory leaves the record alone.
-  ScratchText user_scratch;
-  ScratchText password_scratch;
-  const auto user = decoded(parts.user, code_page, user_scratch);
-  const auto password = decoded(parts.password, code_page, password_scratch);
+// The parts before one that does not fit are written.
+long write_record(const UrlParts& parts, unsigned code_page, url_info_u& info) {
   const bool fits = put(parts.schema, info.schema_len, info.schema) &&
-                    put(user, info.user_len, info.user) &&
-                    put(password, info.password_len, info.password) &&
+                    put(parts.user, info.user_len, info.user) &&
+                    put(parts.password, info.password_len, info.password) &&
                     put(parts.host, info.host_len, info.host) &&
                     put(parts.path, info.path_len, info.path);
   if (!fits) return URL_E_BUFFER;
@@ -79,16 +52,30 @@ long put_url(std::wstring_view url, unsigned code_page, url_info_u& info) {
   return 0;
 }
 
+long parse(std::wstring_view url, unsigned code_page, url_info_u& info) {
+  if (url.empty()) return URL_E_UNSUPPORTED;
+  auto [fault, parts] = split_url(url);
+  if (fault != UrlFault::kNone) return URL_E_PARSE;
+  if (parts.type == SCHEMA_UNKNOWN) return URL_E_UNSUPPORTED;
+  if (parts.user.empty() && parts.password.empty()) {
+    return write_record(parts, code_page, info);
+  }
+  ScratchText user;
+  ScratchText password;
+  parts.user = decoded(parts.user, code_page, user);
+  parts.password = decoded(parts.password, code_page, password);
+  return write_record(parts, code_page, info);
+}
+
 UrlParts parts_of(const url_info_u& info) {
-  UrlParts parts;
-  parts.schema = {info.schema, info.schema_len};
-  parts.type = schema_type_of(parts.schema);
-  parts.user = {info.user, info.user_len};
-  parts.password = {info.password, info.password_len};
-  parts.host = {info.host, info.host_len};
-  parts.port = static_cast<std::uint32_t>(info.port);
-  parts.path = {info.path, info.path_len};
-  return parts;
+  const std::wstring_view schema(info.schema, info.schema_len);
+  return {schema,
+          scheme_named(schema).type,
+          {info.user, info.user_len},
+          {info.password, info.password_len},
+          {info.host, info.host_len},
+          static_cast<std::uint32_t>(info.port),
+          {info.path, info.path_len}};
 }
 
 bool is_readable(const UrlParts& parts) {
@@ -98,11 +85,6 @@ bool is_readable(const UrlParts& parts) {
   return std::max(lengths) <= kLongestText;
 }
 
-bool is_supported(SCHEMA_TYPE type) {
-  // Kept: callers rely on "peer://" being parsed and yet not supported.
-  return type != SCHEMA_PEER && type != SCHEMA_UNKNOWN;
-}
-
 }  // namespace
 
 long parse_url_u(const wchar_t* url, size_t url_len, unsigned code_page,
@@ -110,7 +92,7 @@ long parse_url_u(const wchar_t* url, size_t url_len, unsigned code_page,
   if (url == nullptr || info == nullptr) return URL_E_INVALID_ARG;
   if (url_len > kLongestText) return URL_E_BUFFER;
   return answer(URL_E_BUFFER, [&] {
-    return put_url({url, url_len}, code_page, *info);
+    return parse({url, url_len}, code_page, *info);
   });
 }
 
@@ -121,14 +103,10 @@ long url_info_to_str_u(wchar_t* out, size_t* out_len, const url_info_u* info) {
   return answer(URL_E_BUFFER, [&]() -> long {
     const UrlParts parts = parts_of(*info);
     if (!is_readable(parts)) return URL_E_BUFFER;
-    const std::size_t size = printed_size(parts);
-    if (size > *out_len) return URL_E_BUFFER;
-    // `out` may lie within the record.
-    ScratchText scratch;
-    wchar_t* const printed = scratch.reserve(size);
-    print_url(parts, printed);
-    std::copy_n(printed, size, out);
-    *out_len = size;
+    // Printed aside: `out` may lie within the record.
+    const std::wstring text = print_url(parts);
+    if (text.size() > *out_len) return URL_E_BUFFER;
+    *out_len = text.copy(out, text.size());
     return 0;
   });
 }
@@ -141,10 +119,9 @@ long parse_filename_u(wchar_t* out, size_t* out_len, const wchar_t* url,
   if (url_len > kLongestText) return URL_E_BUFFER;
   return answer(URL_E_BUFFER, [&]() -> long {
     const std::wstring_view text(url, url_len);
+    ClassifiedText segment = last_segment(text.substr(0, text.find(L'?')));
     ScratchText scratch;
-    const FileName name = qk::url::find_file_name(
-        qk::url::last_segment(text.substr(0, text.find(L'?'))), code_page,
-        scratch);
+    const FileName name = find_file_name(segment, code_page, scratch);
     if (name.text.size() > *out_len) return URL_E_BUFFER;
     write_file_name(name, out);
     *out_len = name.text.size();
@@ -157,7 +134,9 @@ long is_support_schema(const char* schema, size_t schema_len,
   if (schema == nullptr || supported == nullptr) return URL_E_INVALID_ARG;
   if (schema_len > kLongestText) return URL_E_BUFFER;
   // Schemes are ASCII, which every narrow encoding reads alike.
-  const auto type = schema_type_of(std::string_view(schema, schema_len));
-  *supported = is_supported(type) ? 1 : 0;
+  const SCHEMA_TYPE type =
+      scheme_named(std::string_view(schema, schema_len)).type;
+  // Quirk: "peer://" is not supported, although parse_url_u accepts it.
+  *supported = type != SCHEMA_PEER && type != SCHEMA_UNKNOWN ? 1 : 0;
   return 0;
 }

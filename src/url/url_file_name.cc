@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <string>
 
 #include <korvane/url_object.h>
 #include "text/code_of.h"
@@ -11,69 +12,41 @@ namespace qk::url {
 namespace {
 
 constexpr std::size_t kNowhere = std::wstring_view::npos;
-constexpr std::wstring_view kIndexName = L"index.html";
 constexpr std::size_t kLongestSearchedName = 1023;
 
-// In the order in which they are looked for.
+// In the order in which they are searched for.
 constexpr std::wstring_view kExtensions[] = {
     L".msi",  L".asf", L".avi",  L".exe", L".iso", L".mp3",
     L".mpeg", L".mpg", L".mpga", L".ra",  L".rar", L".rm",
     L".rmvb", L".tar", L".wma",  L".wmp", L".wmv", L".zip"};
 
-bool is_separator(wchar_t unit) { return unit == L'/' || unit == L'\\'; }
-
-constexpr std::size_t kBlock = 8;
-
-// Told by arithmetic alone: without a branch the compiler looks at several
-// units at once, as the C library does in searches from the front.
-bool has_separator(const wchar_t* block) {
-  unsigned found = 0;
-  for (std::size_t i = 0; i < kBlock; ++i) {
-    found |= static_cast<unsigned>(block[i] == L'/') |
-             static_cast<unsigned>(block[i] == L'\\');
-  }
-  return found != 0;
-}
-
-std::size_t last_separator(std::wstring_view text) {
-  std::size_t end = text.size();
-  while (end >= kBlock && !has_separator(text.data() + end - kBlock)) {
-    end -= kBlock;
-  }
-  while (end > 0 && !is_separator(text[end - 1])) --end;
-  return end == 0 ? kNowhere : end - 1;
-}
-
-std::wstring_view behind(std::wstring_view text, std::size_t position) {
-  return position == kNowhere ? text : text.substr(position + 1);
-}
-
-// The separator before the name: an address that the query carries as "url=" is
-// what the URL leads to.
+// The separator before the file name. A URL in the query after "url=" is what
+// the whole URL leads to.
 std::size_t file_position(std::wstring_view text) {
-  if (text.find(L"url=") != kNowhere) return last_separator(text);
-  return last_separator(text.substr(0, text.find(L'?')));
+  const bool is_redirect = text.find(L"url=") != kNowhere;
+  return text.find_last_of(L"\\/", is_redirect ? kNowhere : text.find(L'?'));
+}
+
+// Code page 0 and 0xFFFFFFFF mean the one that is detected.
+unsigned detected_code_page(const std::string& bytes, unsigned code_page) {
+  constexpr unsigned kAny = 0xFFFFFFFF;
+  if (!is_default_code_page(code_page)) return code_page;
+  code_page = url_object::get_generally_codepage(bytes, kAny);
+  return is_default_code_page(code_page) ? 0 : code_page;
 }
 
 std::wstring_view without_trailing_blanks(std::wstring_view text) {
-  while (!text.empty() && is_one_of(text.back(), kBlank)) text.remove_suffix(1);
+  while (!text.empty() && is_blank(text.back())) text.remove_suffix(1);
   return text;
-}
-
-unsigned detected_code_page(const std::string& bytes, unsigned code_page) {
-  if (!is_default_code_page(code_page)) return code_page;
-  const unsigned detected =
-      url_object::get_generally_codepage(bytes, 0xFFFFFFFF);
-  return is_default_code_page(detected) ? kDefaultCodePage : detected;
 }
 
 bool is_illegal(wchar_t unit) { return is_one_of(unit, kIllegal); }
 
-// The name within decoded text that holds separators or a query.
+// The name in decoded text with separators or a query.
 std::wstring_view cut_name(std::wstring_view text) {
   const std::size_t query = text.rfind(L'?');
-  if (query == kNowhere) return last_segment(text);
-  // Kept: the "?" itself stays, and becomes the name's last "_".
+  if (query == kNowhere) return last_segment(text).text;
+  // Quirk: the last "?" stays, and is written as "_".
   text = text.substr(0, query + 1);
   const std::size_t separator = file_position(text);
   // Without a separator the text is the name, "&" and all.
@@ -97,35 +70,34 @@ bool is_word_unit(wchar_t unit) {
   return is_letter(unit) || is_decimal(unit) || unit == L'$' || unit == L'-';
 }
 
-std::size_t find_extension(std::wstring_view text,
-                           std::wstring_view extension) {
-  const std::size_t found = text.find(extension);
-  if (found != kNowhere) return found;
-  return text.find(make_upper(std::wstring(extension)));
-}
-
 std::wstring_view word_with(std::wstring_view text,
                             std::wstring_view extension) {
-  const std::size_t dot = find_extension(text, extension);
+  std::size_t dot = text.find(extension);
+  if (dot == kNowhere) dot = text.find(make_upper(std::wstring(extension)));
   if (dot == kNowhere) return {};
   const std::size_t end = dot + extension.size();
   if (!ends_word(text, end)) return {};
-  // Kept: the text's first character counts as part of the word, whatever it
-  // is.
   std::size_t begin = dot;
   while (begin > 1 && is_word_unit(text[begin - 1])) --begin;
+  // Quirk: the first character of the text belongs to the word, whatever it is.
   if (begin == 1) begin = 0;
   return begin < dot ? text.substr(begin, end - begin) : std::wstring_view();
 }
 
 }  // namespace
 
-std::wstring_view last_segment(std::wstring_view text) {
-  return behind(text, last_separator(text));
+ClassifiedText last_segment(std::wstring_view text) {
+  unsigned classes = 0;
+  std::size_t begin = text.size();
+  for (; begin > 0; --begin) {
+    const unsigned some = classes_of(text[begin - 1]);
+    if ((some & kSeparator) != 0) break;
+    classes |= some;
+  }
+  return {text.substr(begin), static_cast<CharacterClasses>(classes)};
 }
 
 std::wstring_view word_with_extension(std::wstring_view text) {
-  if (text.find(L'.') == kNowhere) return {};
   for (const std::wstring_view extension : kExtensions) {
     const std::wstring_view word = word_with(text, extension);
     if (!word.empty()) return word;
@@ -133,17 +105,18 @@ std::wstring_view word_with_extension(std::wstring_view text) {
   return {};
 }
 
-FileName find_file_name(std::wstring_view text, unsigned code_page,
+FileName find_file_name(ClassifiedText& text, unsigned code_page,
                         ScratchText& scratch) {
-  const DecodedText decoded =
-      decode_with_code_page(text, code_page, scratch, detected_code_page);
-  // Separators and "?" are illegal too: most names need one look only.
-  const bool is_clean = !decoded.holds(kIllegal);
-  std::wstring_view raw = without_trailing_blanks(decoded.text);
+  decode_with_code_page(text, code_page, scratch, detected_code_page);
+  std::wstring_view raw = without_trailing_blanks(text.text);
+  // Separators and "?" are illegal too.
+  const bool is_clean = !text.holds(kIllegal);
   if (!is_clean) raw = cut_name(raw);
   const std::wstring_view name = without_leading_illegal(raw);
   if (name.empty()) return {kIndexName, true};
-  if (name.size() > kLongestSearchedName || name.find(L'.') != kNowhere) {
+  // A clean name is all of the text, so it has the text's ".".
+  if (is_clean || !text.holds(kDot) || name.size() > kLongestSearchedName ||
+      name.find(L'.') != kNowhere) {
     return {name, is_clean};
   }
   const std::wstring_view word = word_with_extension(raw);
@@ -151,11 +124,11 @@ FileName find_file_name(std::wstring_view text, unsigned code_page,
 }
 
 void write_file_name(const FileName& name, wchar_t* out) {
-  if (name.is_clean) {
-    std::copy(name.text.begin(), name.text.end(), out);
-  } else {
+  if (!name.is_clean) {
     std::replace_copy_if(name.text.begin(), name.text.end(), out, is_illegal,
                          L'_');
+  } else if (name.text.data() != out) {
+    std::copy(name.text.begin(), name.text.end(), out);
   }
 }
 
@@ -163,9 +136,10 @@ void write_file_name(const FileName& name, wchar_t* out) {
 
 std::wstring url_object::file_name_for(const std::wstring& text,
                                        unsigned code_page) {
+  qk::url::ClassifiedText decoded = qk::url::classify(text);
   qk::url::ScratchText scratch;
   const qk::url::FileName found =
-      qk::url::find_file_name(text, code_page, scratch);
+      qk::url::find_file_name(decoded, code_page, scratch);
   std::wstring name(found.text.size(), L'\0');
   qk::url::write_file_name(found, name.data());
   return name;

@@ -3,32 +3,34 @@
 #define KORVANE_URL_URL_FILE_NAME_H_
 
 #include <cstddef>
-#include <string>
 #include <string_view>
 
 #include "url/text_decoding.h"
 
 namespace qk::url {
 
-// What stands behind the last "\" or "/"; all of `text` if there is none.
-std::wstring_view last_segment(std::wstring_view text);
+constexpr std::wstring_view kIndexName = L"index.html";
+
+// The text after the last "\" or "/"; all of `text` if there is none.
+ClassifiedText last_segment(std::wstring_view text);
 
 struct FileName {
   std::wstring_view text;  // not empty
-  bool is_clean;           // false: may hold what no file's name may hold
+  bool is_clean;           // false: may contain what no file name may contain
 };
 
-// The name for what `text` leads to, a view of `text`, of `scratch` or of a
-// constant; write_file_name cleans it.
-FileName find_file_name(std::wstring_view text, unsigned code_page,
+// The name for what `text`, which is decoded in place, leads to. A view of
+// `text`, of `scratch` or of kIndexName; not longer than kIndexName and `text`,
+// unless the host's conversion is.
+FileName find_file_name(ClassifiedText& text, unsigned code_page,
                         ScratchText& scratch);
 
-// Writes name.text.size() units to `out`, "_" for each character that no file's
-// name may hold.
+// Writes name.text.size() code units to `out`, with "_" for each character that
+// no file name may contain. The name may be in `out` or behind.
 void write_file_name(const FileName& name, wchar_t* out);
 
-// The word in `text` that ends in a known file extension, which white space, a
-// comma or the end of the text follows: "setup.exe" in "get setup.exe, now".
+// The word in `text` that ends in a known file extension followed by white
+// space, a comma or the end of the text: "setup.exe" in "get setup.exe, now".
 // Extensions are all lower or all upper case. Empty if there is none.
 std::wstring_view word_with_extension(std::wstring_view text);
 

@@ -1,6 +1,4 @@
-// url_object's percent-coding, over the coders of percent_coding.h.
-#include <algorithm>
-
+// Percent-coding and character classes of url_object.
 #include <korvane/url_object.h>
 #include "url/character_classes.h"
 #include "url/percent_coding.h"
@@ -21,11 +19,9 @@ std::basic_string<Unit> decoded(const std::basic_string<Unit>& text) {
 }
 
 template <typename Unit>
-void erase_leading_blanks(std::basic_string<Unit>& text) {
-  text.erase(text.begin(),
-             std::find_if_not(text.begin(), text.end(), [](Unit unit) {
-               return qk::url::is_one_of(unit, qk::url::kBlank);
-             }));
+void trim(std::basic_string<Unit>& text) {
+  const std::basic_string_view<Unit> all = text;
+  text.erase(0, all.size() - qk::url::without_leading_blanks(all).size());
 }
 
 }  // namespace
@@ -49,13 +45,12 @@ std::wstring url_object::decode_ex(const std::wstring& text) {
 std::wstring url_object::decode_ex(const std::wstring& text,
                                    unsigned code_page) {
   qk::url::ScratchText scratch;
-  return std::wstring(
-      qk::url::decode_with_code_page(text, code_page, scratch).text);
+  return std::wstring(qk::url::decoded(text, code_page, scratch));
 }
 
 std::wstring url_object::encode_ex(const std::wstring& text) {
-  std::wstring escaped(qk::url::escaped_size(text), L'\0');
-  qk::url::escape(text, escaped.data());
+  std::wstring escaped;
+  qk::url::append_escaped(text, escaped);
   return escaped;
 }
 
@@ -71,13 +66,9 @@ unsigned url_object::get_generally_codepage(const std::string& /*text*/,
   return 0;
 }
 
-void url_object::trim_pre_space(std::string& text) {
-  erase_leading_blanks(text);
-}
+void url_object::trim_pre_space(std::string& text) { trim(text); }
 
-void url_object::trim_pre_space(std::wstring& text) {
-  erase_leading_blanks(text);
-}
+void url_object::trim_pre_space(std::wstring& text) { trim(text); }
 
 bool url_object::is_alpha(char unit) { return qk::url::is_letter(unit); }
 bool url_object::is_alpha(wchar_t unit) { return qk::url::is_letter(unit); }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include <korvane/url_object.h>
@@ -20,7 +21,7 @@ struct UrlParts {
   std::wstring_view path;
 };
 
-// What keeps a text from being a URL.
+// Why a text is no URL.
 enum class UrlFault {
   kNone,
   kNoScheme,     // no part is set
@@ -33,19 +34,12 @@ struct SplitUrl {
   UrlParts parts;
 };
 
-// Takes `url` apart. User and password are not decoded. The parts are views of
-// `url`, except for the path "/" of a URL without one.
+// Splits `url` into views of its parts. User and password are not decoded; the
+// path of a URL without one is "/".
 SplitUrl split_url(std::wstring_view url);
 
-// How long the printed URL is; its user and password are taken as decoded.
-std::size_t printed_size(const UrlParts& parts);
-
-// Writes the printed URL, printed_size(parts) units, to `out`.
-void print_url(const UrlParts& parts, wchar_t* out);
-
-// url_object::schema_type_for without a copy, for narrow text as well.
-template <typename Unit>
-SCHEMA_TYPE schema_type_of(std::basic_string_view<Unit> schema);
+// Prints a URL; user and password, which are decoded, are escaped.
+std::wstring print_url(const UrlParts& parts);
 
 }  // namespace qk::url
 
