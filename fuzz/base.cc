@@ -1,8 +1,6 @@
 // Base16, base32, base64 and private links, there and back.
 #include <korvane/encoders.h>
 
-#include <memory>
-
 #include <korvane/korvane_host.h>
 #include <korvane/korvane_links.h>
 #include <korvane/korvane_url.h>

@@ -1,8 +1,6 @@
 // The name of the file that a URL leads to.
 #include "url/url_file_name.h"
 
-#include <memory>
-
 #include <korvane/korvane_links.h>
 #include <korvane/url_object.h>
 #include "fuzz.h"

@@ -1,35 +1,30 @@
 // Text copied to a buffer of exactly its size, so that a sanitizer sees one
-// unit read too far. Without one, digits stand there that would count.
+// code unit read too far. Without one, digits follow that would count.
 #ifndef KORVANE_TEST_UNIT_EXACT_COPY_H_
 #define KORVANE_TEST_UNIT_EXACT_COPY_H_
 
-#include <algorithm>
-#include <cstddef>
-#include <memory>
-#include <string_view>
+#include <string>
+#include <vector>
 
 template <typename Unit>
 class ExactCopy {
  public:
-  explicit ExactCopy(std::basic_string_view<Unit> text)
-      : units_(new Unit[text.size() + kBehind]), size_(text.size()) {
-    Unit* const end = std::copy(text.begin(), text.end(), units_.get());
-    std::fill_n(end, kBehind, Unit('A'));
+  explicit ExactCopy(const std::basic_string<Unit>& text) : size_(text.size()) {
+    units_.reserve(1);  // no null pointer
+    units_.assign(text.begin(), text.end());
+#ifndef KORVANE_SANITIZED
+    units_.resize(size_ + 8, Unit('A'));
+#endif
   }
-  const Unit* data() const { return units_.get(); }
-  std::size_t size() const { return size_; }
+  const Unit* data() const { return units_.data(); }
+  unsigned size() const { return static_cast<unsigned>(size_); }
 
  private:
-#ifdef KORVANE_SANITIZED
-  static constexpr std::size_t kBehind = 0;
-#else
-  static constexpr std::size_t kBehind = 8;
-#endif
-  std::unique_ptr<Unit[]> units_;
+  std::vector<Unit> units_;
   std::size_t size_;
 };
 
-ExactCopy(std::string_view)->ExactCopy<char>;
-ExactCopy(std::wstring_view)->ExactCopy<wchar_t>;
+template <typename Unit>
+ExactCopy(const std::basic_string<Unit>&) -> ExactCopy<Unit>;
 
 #endif  // KORVANE_TEST_UNIT_EXACT_COPY_H_

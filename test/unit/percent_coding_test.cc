@@ -1,9 +1,6 @@
 // The percent-coders of all classes.
 #include "url/percent_coding.h"
 
-#include <cctype>
-#include <string_view>
-
 #include <korvane/ed2k_file_link.h>
 #include <korvane/encoders.h>
 #include <korvane/korvane_host.h>
@@ -37,41 +34,38 @@ void expect_classes(Unit unit, bool escaped, bool reserved, bool letter) {
 }
 
 TEST(character_classes, AreAscii) {
-  const auto is_in = [](std::string_view characters, char unit) {
-    return characters.find(unit) != std::string_view::npos;
-  };
-  for (int code = 0; code < 128; ++code) {
-    const auto unit = static_cast<char>(code);
-    const bool escaped = code < 32 || is_in(" \x7F\"#%<>[\\]^`{|}~", unit);
-    const bool reserved = is_in("$&+,/:;=?@", unit);
-    const bool letter = (code | 32) >= 'a' && (code | 32) <= 'z';
-    expect_classes(unit, escaped, reserved, letter);
-    expect_classes(wchar_t(unit), escaped, reserved, letter);
-    expect_classes(static_cast<char>(code + 128), false, false, false);
-    expect_classes(wchar_t(code + 256), false, false, false);
-    expect_classes(wchar_t(0x80000000U + unsigned(code)), false, false, false);
+  for (unsigned code = 0; code < 0x200; ++code) {
+    const auto is_in = [code](const Text& units) {
+      return units.find(wchar_t(code)) != Text::npos;
+    };
+    const bool escaped = code < 32 || is_in(L" \x7F\"#%<>[\\]^`{|}~");
+    const bool reserved = is_in(L"$&+,/:;=?@");
+    const bool letter = code < 128 && (code | 32) >= 'a' && (code | 32) <= 'z';
+    expect_classes(wchar_t(code), escaped, reserved, letter);
+    expect_classes(wchar_t(code + 0x80000000), false, false, false);
+    if (code > 255) continue;
+    expect_classes(static_cast<char>(code), escaped, reserved, letter);
   }
 }
 
 TEST(percent_coding, DecodeKeepsWhatIsNoEscape) {
   // The wide decode leaves escapes of reserved characters.
   const Table row = [](const Bytes& text, const Bytes& want, const Text& wide) {
+    const ExactCopy copy(text);
+    Bytes out = "old";
+    EXPECT_TRUE(decode_url(copy.data(), copy.size(), out));
+    EXPECT_EQ(out, want);
     EXPECT_EQ(url_object::decode(text), want);
     EXPECT_EQ(url_object::decode_ex(text), want);
-    Bytes out = "old";
-    EXPECT_TRUE(decode_url(text.data(), text.size(), out));
-    EXPECT_EQ(out, want);
     const Text wide_text = {text.begin(), text.end()};
     EXPECT_EQ(url_object::decode(wide_text), wide);
     EXPECT_EQ(url_object::decode_ex(wide_text), Text(want.begin(), want.end()));
   };
-  row("", "", L"");
-  row("a%20b+%4a%4A%7e", "a b+JJ~", L"a b+JJ~");
-  row("%%41%4g%g4%4%41%2541", "%A%4g%g4%4A%41", L"%A%4g%g4%4A%41");
-  row("%", "%", L"%");
-  row("%4", "%4", L"%4");
+  row("a%20b+%4a%4A%7e%2541", "a b+JJ~%41", L"a b+JJ~%41");
+  row("%%41%4g%g4%4%41%", "%A%4g%g4%4A%", L"%A%4g%g4%4A%");
+  row("%00%4", "\0%4"s, L"\0%4"s);
   row("%24%26%2B%2C%2f%3A", "$&+,/:", L"%24%26%2B%2C%2f%3A");
-  row("%3B%3D%3F%40%23%00", ";=?@#\0"s, L"%3B%3D%3F%40#\0"s);
+  row("%3B%3D%3F%40%23", ";=?@#", L"%3B%3D%3F%40#");
   EXPECT_EQ(url_object::decode("\xE9%ff"), "\xE9\xFF");
   EXPECT_EQ(url_object::decode_ex(L"😀%ff\xD800\xFFFFFFFF"),
             L"😀\xFF\xD800\xFFFFFFFF");
@@ -82,15 +76,12 @@ TEST(percent_coding, EscapesAreBytesInACodePage) {
     EXPECT_EQ(url_object::decode_ex(text, code_page), want);
     EXPECT_EQ(url_object::file_name_for(text, code_page), want);
   };
-  row(L"plain", 65001, L"plain");
   row(L"caf%C3%A9", 65001, L"café");
-  row(L"caf%C3%A9", 0xFFFFFFFF, L"café");
+  row(L"caf%C3%A9", ~0U, L"café");
   row(L"caf%E9%E9", 1251, L"cafйй");
-  row(L"%D6%D0.txt", 936, L"中.txt");
   row(L"café%20x", 65001, L"café%20x");
-  row(L"\x80%20", 0, L"\x80%20");
+  row(L"\x80\0%20"s, 0, L"\x80\0%20"s);
   row(L"\x80000041%20", 0, L"\x80000041%20");
-  row(L"é\0%20"s, 0, L"é\0%20"s);
   row(L"%41%00%E9", 1252, L"A");
   row(L"%41\0%E9"s, 0, L"A");
   row(Text(300, L'a') + L"%41%", 0, Text(300, L'a') + L"A%");
@@ -98,41 +89,32 @@ TEST(percent_coding, EscapesAreBytesInACodePage) {
 
 TEST(percent_coding, AsksTheHostAndNoHook) {
   EXPECT_EQ(url_object::decode_ex(L"%1B%24B", 50220), L"7-bit");
-  url_object::decode_ex(L"%E9", 0xFFFFFFFF);
+  url_object::decode_ex(L"%E9", ~0U);
   EXPECT_EQ(last_code_page, -1);
-  url_object::file_name_for(L"%E9", 0xFFFFFFFF);
+  url_object::file_name_for(L"%E9", ~0U);
   EXPECT_EQ(last_code_page, 0);
-  for (const Bytes text : {"abc", "%E4", "\xE4"}) {
-    unsigned code_page = 936;
-    url_object::detect_codepage(text, &code_page);
-    EXPECT_EQ(code_page, 0U) << text;
-    EXPECT_EQ(url_object::get_code_page(text), 0U) << text;
-  }
+  unsigned code_page = 936;
+  url_object::detect_codepage("%E4", &code_page);
+  EXPECT_EQ(code_page + url_object::get_code_page("\xE4"), 0U);
 }
 
 TEST(percent_coding, EncodeEscapesSpecialAndReservedCharacters) {
-  const Table row = [](const Text& text, const Text& want) {
-    EXPECT_EQ(url_object::encode_ex(text), want);
-  };
-  row(L"AZaz09-._!'()*", L"AZaz09-._!'()*");
-  row(L"a b/\x7F", L"a%20b%2F%7F");
-  row(L"%41%2f%%41%4%zz%", L"%41%2f%25%41%254%25zz%25");
-  row(L"ü中😀\xD800\x80000020", L"ü中😀\xD800\x80000020");
-  row(L"%\x131\x31%1\x80000031", L"%25\x131\x31%251\x80000031");
+  EXPECT_EQ(url_object::encode_ex(L"Az09-._!'()* /\x7F"),
+            L"Az09-._!'()*%20%2F%7F");
+  EXPECT_EQ(url_object::encode_ex(L"%41%2f%%41%4%zz%"),
+            L"%41%2f%25%41%254%25zz%25");
+  EXPECT_EQ(url_object::encode_ex(L"中\xD800\x80000020%\x131\x31%1\x80000031"),
+            L"中\xD800\x80000020%25\x131\x31%251\x80000031");
   EXPECT_EQ(utf8_2_hexstr("a b%|\0\x7F\x80\xFF"s), "a b%|\0\x7F%80%FF"s);
 }
 
 TEST(percent_coding, TrimPreSpaceRemovesSpacesAndTabs) {
-  const Table row = [](Bytes text, const Bytes& want) {
-    Text wide(text.begin(), text.end());
-    url_object::trim_pre_space(wide);
-    EXPECT_EQ(wide, Text(want.begin(), want.end()));
-    url_object::trim_pre_space(text);
-    EXPECT_EQ(text, want);
-  };
-  row("\t  x y ", "x y ");
-  row(" \t", "");
-  row(" \v x", "\v x");
+  Bytes text = "\t \v x ";
+  url_object::trim_pre_space(text);
+  EXPECT_EQ(text, "\v x ");
+  Text wide = L" \t";
+  url_object::trim_pre_space(wide);
+  EXPECT_EQ(wide, L"");
 }
 
 }  // namespace

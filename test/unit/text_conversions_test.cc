@@ -1,3 +1,5 @@
+#include <thread>
+
 #include <korvane/korvane_host.h>
 #include <korvane/transcode.h>
 #include "table.h"
@@ -5,33 +7,23 @@
 
 namespace {
 
-Text decoded(const Bytes& bytes, int code_page) {
-  return string_to_wstring_with_code_page(bytes, code_page);
-}
-
-TEST(text_conversions, Utf8HasTheCharactersUpTo10FFFF) {
+TEST(utf8, HasTheCharactersUpTo10FFFF) {
   const Table row = [](const Text& text, const Bytes& want) {
     EXPECT_EQ(wstring_2_utf8(text), want);
     EXPECT_EQ(wstring_2_string(text), want);
     EXPECT_EQ(string_2_wstring(want), text);
   };
   row(L"", "");
-  row(L"plain\x7F", "plain\x7F");
-  row(L"\x80", "\xC2\x80");
-  row(L"\x7FF", "\xDF\xBF");
-  row(L"\x800", "\xE0\xA0\x80");
-  row(L"\xD7FF", "\xED\x9F\xBF");
-  row(L"\xE000", "\xEE\x80\x80");
-  row(L"\xFFFF", "\xEF\xBF\xBF");
-  row(L"\x10000", "\xF0\x90\x80\x80");
+  row(L"plain\x7F\x80", "plain\x7F\xC2\x80");
+  row(L"\x7FF\x800", "\xDF\xBF\xE0\xA0\x80");
+  row(L"\xD7FF\xE000", "\xED\x9F\xBF\xEE\x80\x80");
+  row(L"\xFFFF\x10000", "\xEF\xBF\xBF\xF0\x90\x80\x80");
   row(L"\x10FFFF\x10FFFF", "\xF4\x8F\xBF\xBF\xF4\x8F\xBF\xBF");
-}
-
-TEST(text_conversions, EncodingEndsAtWhatIsNoCharacter) {
-  for (const wchar_t bad : L"\xD800\xDFFF\x110000\x80000000\xFFFFFFFF"s) {
-    EXPECT_EQ(wstring_2_utf8({L'a', bad, L'\xE9'}), "a") << std::hex << bad;
+  for (const wchar_t bad : L"\0\xD800\xDFFF\x110000\x80000000\xFFFFFFFF"s) {
+    EXPECT_EQ(wstring_2_utf8({L'\xE9', bad}), "\xC3\xA9") << std::hex << bad;
+    Bytes utf8;
+    EXPECT_EQ(qk::text::encode_utf8(Text(1, bad), utf8), bad == 0);
   }
-  EXPECT_EQ(wstring_2_utf8(L"a\0\xE9"s), "a");
 }
 
 TEST(utf8, DecodingEndsAtWhatIsNoCharacter) {
@@ -46,66 +38,76 @@ TEST(utf8, DecodingEndsAtWhatIsNoCharacter) {
   }
 }
 
+const Table decoded = [](const Bytes& bytes, int code_page, const Text& want) {
+  EXPECT_EQ(string_to_wstring_with_code_page(bytes, code_page), want);
+};
+
 // UTF-8, otherwise GBK, otherwise Western.
 TEST(text_conversions, TheDefaultEncodingReadsAnyName) {
-  const Table row = [](const Bytes& bytes, const Text& want) {
-    EXPECT_EQ(string_2_wstring(bytes), want);
-    for (const int number : {0, -1, 1, 28590, 28602, 28607, 1259}) {
-      EXPECT_EQ(decoded(bytes, number), want) << number;
-    }
-  };
-  row("\xE4\xB8\xAD.txt", L"\x4E2D.txt");
-  row("\xD6\xD0.txt", L"\x4E2D.txt");
-  row("caf\xE9\xE9", L"caf\x6B9A");
-  row("caf\xE9", L"caf\xE9");
-  row("\xE9 \xD6\xD0", L"\xE9 \xD6\xD0");
-  row("\xC3\xA9\0\xFF"s, L"\xE9");
-  row("a\0b"s, L"a");
+  for (const int number : {0, -1, 1, 28590, 28602, 28607, 1259}) {
+    decoded("\xE4\xB8\xAD\0\xFF"s, number, L"\x4E2D");
+    decoded("\xD6\xD0.txt", number, L"\x4E2D.txt");
+    decoded("caf\xE9", number, L"caf\xE9");
+  }
+  // What a page cannot read, the default encoding does.
+  decoded("caf\xE9.zip", 65001, L"caf\xE9.zip");
+  decoded("\xD6\xD0\xFF", 936, L"\xD6\xD0\xFF");
   for (int byte = 0x80; byte < 0x100; ++byte) {
-    const char bytes[] = {' ', static_cast<char>(byte), ' '};
+    const Bytes bytes = {static_cast<char>(byte), '\xFF'};
     Text want;
-    qk::text::transcode::ANSI_to_Unicode(bytes, 3, want);
+    qk::text::transcode::ANSI_to_Unicode(bytes.data(), 2, want);
     // Western leaves five bytes undefined.
-    row({bytes, 3}, want == L" " ? Text{L' ', wchar_t(byte), L' '} : want);
+    if (want.empty()) want = {wchar_t(byte), L'\xFF'};
+    EXPECT_EQ(string_2_wstring(bytes), want) << byte;
   }
 }
 
 TEST(text_conversions, CodePages) {
-  const Table row = [](int code_page, const Bytes& bytes, const Text& want) {
-    EXPECT_EQ(decoded(bytes, code_page), want);
-  };
-  // What a page cannot read, the default encoding does.
-  row(65001, "caf\xE9.zip", L"caf\xE9.zip");
-  row(936, "\xD6\xD0\xFF", L"\xD6\xD0\xFF");
-  row(936, "\xE4\xB8\xAD\x61", L"\x6D93\x74A6");
-  row(54936, "\x94\x39\xFC\x36", L"\x1F600");
-  row(932, "\x93\xFA", L"\x65E5");
-  row(949, "\x81\x41", L"\xAC02");
-  row(950, "\xA4\xA4\xF9\xD6", L"\x4E2D\x7881");
-  row(866, "\x80\xF0", L"\x410\x401");
-  row(874, "\x80\xA1", L"\x20AC\x0E01");
-  row(20866, "\xE1\xA4", L"\x410\x2553");
-  row(21866, "\xA4\xAE", L"\x454\x255D");
+  decoded("\xE4\xB8\xAD\x61", 936, L"\x6D93\x74A6");
+  decoded("\x94\x39\xFC\x36", 54936, L"\x1F600");
+  decoded("\x93\xFA", 932, L"\x65E5");
+  decoded("\x81\x41", 949, L"\xAC02");
+  decoded("\xA4\xA4\xF9\xD6", 950, L"\x4E2D\x7881");
+  decoded("\x80\xF0", 866, L"\x410\x401");
+  decoded("\x80\xA1", 874, L"\x20AC\x0E01");
+  decoded("\xE1\xA4", 20866, L"\x410\x2553");
+  decoded("\xA4\xAE", 21866, L"\x454\x255D");
   // 1255 holds a letter back, 1258 makes one character of two.
-  row(1255, "\xE0", L"\x5D0");
-  row(1258, "\xC2\xEC", L"\x1EA4");
-}
-
-// Two bytes that nearly every page of a family reads otherwise.
-TEST(text_conversions, FamiliesOfCodePages) {
-  const auto expect_each = [](int first, const Bytes& bytes, const Text& want) {
+  decoded("\xE0", 1255, L"\x5D0");
+  decoded("\xC2\xEC", 1258, L"\x1EA4");
+  // Two bytes that nearly every page of a family reads otherwise.
+  const auto decoded_by_each = [](const Bytes& bytes, int first,
+                                  const Text& want) {
     for (int i = 0; i < int(want.size() / 2); ++i) {
-      EXPECT_EQ(decoded(bytes, first + i), want.substr(2U * unsigned(i), 2))
-          << first + i;
+      decoded(bytes, first + i, want.substr(2U * unsigned(i), 2));
     }
   };
-  expect_each(1250, "\xF7\xFE",
-              L"\xF7\x163\x447\x44E\xF7\xFE\x3C7\x3CE\xF7\x15F\x5E7\x200F\xF7"
-              L"\x200F\xF7\x17E\xF7\x20AB");
-  expect_each(28591, "\xF2\xAC",
-              L"\xF2\xAC\x148\x179\xF2\x134\x14D\x166\x452\x40C\x652\x60C\x3C2"
-              L"\xAC\x5E2\xAC\xF2\xAC\x14D\x17D\xE52\xE0C");
-  expect_each(28603, "\xF2\xAC", L"\x146\xAC\xF2\x1EF2\xF2\xAC\xF2\x179");
+  decoded_by_each("\xF7\xFE", 1250,
+                  L"\xF7\x163\x447\x44E\xF7\xFE\x3C7\x3CE\xF7\x15F\x5E7\x200F"
+                  L"\xF7\x200F\xF7\x17E\xF7\x20AB");
+  decoded_by_each("\xF2\xAC", 28591,
+                  L"\xF2\xAC\x148\x179\xF2\x134\x14D\x166\x452\x40C\x652\x60C"
+                  L"\x3C2\xAC\x5E2\xAC\xF2\xAC\x14D\x17D\xE52\xE0C");
+  decoded_by_each("\xF2\xAC", 28603, L"\x146\xAC\xF2\x1EF2\xF2\xAC\xF2\x179");
+}
+
+TEST(base64, EncodesWithPaddingAndInPlace) {
+  const Table row = [](Bytes bytes, const Bytes& want) {
+    qk::crypto::base64::encode(bytes, bytes);
+    EXPECT_EQ(bytes, want);
+  };
+  row("", "");
+  row("f", "Zg==");
+  row("fo", "Zm8=");
+  row("\xFB\xEF\xBE\xFF\xFE\xFD", "++++//79");
+}
+
+TEST(last_error, EachThreadHasItsOwn) {
+  qk::set_last_error(20100001);
+  unsigned seen = 1;
+  std::thread([&seen] { seen = qk::get_last_error(); }).join();
+  EXPECT_EQ(seen, 0U);
+  EXPECT_EQ(qk::get_last_error(), 20100001U);
 }
 
 }  // namespace

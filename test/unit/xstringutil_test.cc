@@ -8,22 +8,20 @@ using namespace xstringutil;
 
 TEST(xstringutil, PrefixesAndSuffixesAreExact) {
   const Table begins = [](const Text& text, const Text& prefix, bool want) {
-    const ExactCopy<wchar_t> copy(text);
-    EXPECT_EQ(IsBeginWith(copy.data(), unsigned(copy.size()), prefix), want);
+    const ExactCopy copy(text);
+    EXPECT_EQ(IsBeginWith(copy.data(), copy.size(), prefix), want);
   };
+  begins(L"a\0bc"s, L"a\0b"s, true);
+  begins(L"mag", L"mag", true);
+  begins(L"ma", L"mag", false);
+  begins(L"Mag", L"mag", false);
+  EXPECT_FALSE(IsBeginWith(nullptr, 0, L""));
   const Table ends = [](const Bytes& text, const Bytes& suffix, bool want) {
-    const ExactCopy<char> copy(text);
-    EXPECT_EQ(IsEndWith(copy.data(), unsigned(copy.size()), suffix), want);
+    const ExactCopy copy(text);
+    EXPECT_EQ(IsEndWith(copy.data(), copy.size(), suffix), want);
     Bytes cut = text;
     EXPECT_EQ(TrimRight(cut, suffix) + (want ? suffix : ""), text);
   };
-  begins(L"magnet", L"", true);
-  begins(L"mag", L"mag", true);
-  begins(L"ma", L"mag", false);
-  begins(L"Magnet", L"mag", false);
-  begins(L"a\0b"s, L"a\0c"s, false);
-  EXPECT_FALSE(IsBeginWith(nullptr, 0, L""));
-  ends("name.td", "", true);
   ends(".td.td", ".td", true);
   ends(".td", ".td", true);
   ends("td", ".td", false);
@@ -33,27 +31,24 @@ TEST(xstringutil, PrefixesAndSuffixesAreExact) {
 
 TEST(xstringutil, GetLineReturnsOneTerminatedLine) {
   const Table row = [](const Bytes& text, int length, const Bytes& want) {
-    const ExactCopy<char> copy(text);
-    Bytes line = "old";
-    EXPECT_EQ(GetLine(copy.data(), length, line),
-              want == "old" ? 0 : int(want.size()));
+    Bytes line = "-";
+    EXPECT_EQ(GetLine(ExactCopy(text).data(), length, line),
+              want == "-" ? 0 : int(want.size()));
     EXPECT_EQ(line, want);
   };
   row("a\0\n\nb"s, 5, "a\0\n"s);
-  row("\n", 1, "\n");
-  row("a\n", 1, "old");
-  row("a\n", -1, "old");
+  row("a\n", 1, "-");
+  row("a\n", -1, "-");
 }
 
 TEST(xstringutil, TrimRemovesSpacesAndTabsOnly) {
-  const Table row = [](Bytes left, const Bytes& want_left, const Bytes& want) {
-    Bytes right = left;
-    EXPECT_EQ(TrimLeft(left), want_left);
-    EXPECT_EQ(TrimRight(right), want);
-  };
-  row(" \t ", "", "");
-  row(" \ta b\t ", "a b\t ", " \ta b");
-  row("\n a \n", "\n a \n", "\n a \n");
+  Bytes text = " \t\n a \n\t ";
+  EXPECT_EQ(TrimLeft(text), "\n a \n\t ");
+  EXPECT_EQ(TrimRight(text), "\n a \n");
+  Bytes blanks = " \t";
+  EXPECT_EQ(TrimLeft(blanks), "");
+  blanks = " \t";
+  EXPECT_EQ(TrimRight(blanks), "");
 }
 
 TEST(xstringutil, SplitsLeaveTheMissingPartUntouched) {
@@ -66,8 +61,7 @@ TEST(xstringutil, SplitsLeaveTheMissingPartUntouched) {
     EXPECT_EQ(first, want_first);
     EXPECT_EQ(second, want_second == "-" ? text : want_second);
     first = text;
-    second = "-";
-    split(first, first, second);
+    split(first, first, second = "-");
     EXPECT_EQ(first, want_first == "-" ? text : want_first);
     EXPECT_EQ(second, want_second);
   };
@@ -75,14 +69,12 @@ TEST(xstringutil, SplitsLeaveTheMissingPartUntouched) {
   row(SplitNetPathFile, "dir/", "dir/", "-");
   row(SplitNetPathFile, "a\\b", "-", "a\\b");
   row(SplitFileName, "archive.tar.gz", "archive.tar", "gz");
-  row(SplitFileName, ".gz", "", "gz");
   row(SplitFileName, "name", "name", "-");
   row(SplitFileName, "name.", "name", "-");
 }
 
 TEST(xstringutil, WindowsFileNamesAreShortAndFreeOfNineCharacters) {
-  EXPECT_TRUE(IsValidWindowsFileName("\x01.b c;\xFF"));
-  EXPECT_TRUE(IsValidWindowsFileName(Bytes(215, 'a')));
+  EXPECT_TRUE(IsValidWindowsFileName(Bytes(212, 'a') + "\x01; "));
   EXPECT_FALSE(IsValidWindowsFileName(Bytes(216, 'a')));
   EXPECT_FALSE(IsValidWindowsFileName(""));
   for (const char illegal : "\\/:*?\"<>|"s) {
@@ -92,23 +84,21 @@ TEST(xstringutil, WindowsFileNamesAreShortAndFreeOfNineCharacters) {
 
 TEST(xstringutil, StringToInt64ReadsDigitsAfterOneMinus) {
   const Table row = [](const Bytes& text, const Bytes& want) {
-    long long value = 777;
-    EXPECT_EQ(StringToInt64(text, value), want != "777");
+    long long value = 7;
+    EXPECT_EQ(StringToInt64(text, value), want != "7");
     EXPECT_EQ(Int64ToString(value), want);
   };
-  row("-42", "-42");
-  row("9223372036854775808", "-9223372036854775808");
-  row("-18446744073709551617", "-1");
+  row("-18446744073709551696", "-80");
+  row("9223372036854775809", "-9223372036854775807");
   row("-", "0");
   for (const Bytes& none : {""s, "+4"s, "--4"s, "4/"s, "4:"s, "1\0"s}) {
-    row(none, "777");
+    row(none, "7");
   }
 }
 
 TEST(xstringutil, DumpsOfBytes) {
-  const ExactCopy<char> data("\xA5\x3C");
+  const ExactCopy data("\xA5\x3C"s);
   EXPECT_EQ(Data2BitString(data.data(), 12), "101001010011");
-  EXPECT_EQ(Data2BitString(data.data(), 16), "1010010100111100");
   EXPECT_EQ(Data2BitString(data.data(), -1), "");
   EXPECT_EQ(Data2BitString(nullptr, 8), "");
   EXPECT_EQ(DataToHexString(data.data(), 2, ": "), "a5: 3c: ");
@@ -117,22 +107,18 @@ TEST(xstringutil, DumpsOfBytes) {
 }
 
 TEST(xstringutil, EscapesDifferInTheirSetAndInTheCaseOfDigits) {
-  const Table row = [](const Bytes& data, const Bytes& text,
+  const Table row = [](const Bytes& bytes, const Bytes& text,
                        const Bytes& path) {
-    const ExactCopy<char> copy(data);
+    const ExactCopy copy(bytes);
     EXPECT_EQ(EscapeString(copy.data(), int(copy.size())), text);
     EXPECT_EQ(EscapePath(copy.data(), int(copy.size())), path);
-    EXPECT_EQ(UnescapeString(text), data);
-    EXPECT_EQ(UnescapeString(path), data);
+    EXPECT_EQ(UnescapeString(text), bytes);
+    EXPECT_EQ(UnescapeString(path), bytes);
   };
-  row("azAZ09", "azAZ09", "azAZ09");
-  row("-_.!~*()", "%2D%5F%2E%21%7E%2A%28%29", "-_.!~*()");
-  row("@[`{:/'%", "%40%5B%60%7B%3A%2F%27%25", "%40%5b%60%7b%3a/%27%25");
-  row("\0\n\x7F\x80\xFF"s, "%00%0A%7F%80%FF", "%00%0a%7f%80%ff");
-}
-
-TEST(xstringutil, UnescapeStringIsAllOrNothing) {
-  EXPECT_EQ(UnescapeString("a+b%2B%2541"), "a b+%41");
+  row("azAZ09@[`{:", "azAZ09%40%5B%60%7B%3A", "azAZ09%40%5b%60%7b%3a");
+  row("/-_.!~*()'", "%2F%2D%5F%2E%21%7E%2A%28%29%27", "/-_.!~*()%27");
+  row("\0\x7F\x80\xFF"s, "%00%7F%80%FF", "%00%7f%80%ff");
+  EXPECT_EQ(UnescapeString("a+b%2541"), "a b%41");
   for (const char* bad : {"ok%41%", "ok%4", "%G1x", "%1Gx", "%%41"}) {
     EXPECT_EQ(UnescapeString(bad), "") << bad;
   }
