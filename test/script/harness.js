@@ -1,40 +1,52 @@
 'use strict';
 
-// A test runner in a page, for runtimes that bring none. A file of tests calls
-// test() and check(); the process ends with 1 if anything failed.
+// A test runner for the product's runtime, which brings none. A file of tests
+// calls test() and check(); arguments name the tests to run by parts of their
+// names. A failure shows the lines that lead to it, its row's among them.
 
 const assert = require('assert');
 const fs = require('fs');
 const os = require('os');
 const path = require('path');
 const { execFileSync } = require('child_process');
+const { inspect } = require('util');
 
 const helper = require(process.env.KORVANE_MODULE);
-let failures = 0;
+const wanted = process.argv.slice(2);
+
+function fail(error) {
+  const lines = error.stack.match(/[\w.]+\.test\.js:\d+/g) || [];
+  console.error(`FAILED ${lines.reverse().join(' ')}: ${error.message}`);
+  process.exitCode = 1;
+}
 
 function test(name, body) {
+  if (wanted.length > 0 && !wanted.some((part) => name.includes(part))) return;
   try {
     body();
   } catch (error) {
-    failures += 1;
-    console.error(`FAILED ${name}\n  ${error.message}`);
+    fail(error);
   }
 }
 
-// Calls one function of the module; says what went in, wanted and got.
+// One row: calls a function of the module and compares what it returns.
 function check(name, args, want) {
-  const got = helper[name](...args);
-  const show = (value) => (typeof value === 'string'
-    ? JSON.stringify(value) : String(value));
-  if (Object.is(got, want)) return;
-  assert.fail(`${name}(${args.map(show).join(', ')}): ` +
-    `want ${typeof want} ${show(want)}, got ${typeof got} ${show(got)}`);
+  const got = inspect(helper[name](...args));
+  if (got === inspect(want)) return;
+  fail(new Error(`${name}(${args.map((arg) => inspect(arg)).join(', ')}) ` +
+    `returned ${got}, not ${inspect(want)}`));
 }
 
 // The command that starts this runtime again: behind an emulator for another
 // architecture's.
 const runtime = [process.env.KORVANE_EMULATOR, process.execPath]
   .filter(Boolean);
+
+// What a script prints in a process of its own.
+function printed(script, options = {}) {
+  return execFileSync(runtime[0], [...runtime.slice(1), '-e', script],
+    Object.assign({ encoding: 'utf8' }, options));
+}
 
 // A folder that goes with the process.
 function temporaryFolder() {
@@ -46,8 +58,9 @@ function temporaryFolder() {
   return folder;
 }
 
-process.on('exit', (code) => {
-  if (code === 0 && failures > 0) process.exitCode = 1;
-});
+const openDescriptors = () => fs.readdirSync('/proc/self/fd').length;
 
-module.exports = { assert, check, helper, runtime, temporaryFolder, test };
+module.exports = {
+  assert, check, helper, openDescriptors, printed, runtime, temporaryFolder,
+  test,
+};

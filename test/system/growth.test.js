@@ -3,75 +3,75 @@
 // Every function is called again and again, KORVANE_CALLS times: memory and
 // descriptors stay what they were. Runs on a display.
 
-const fs = require('fs');
-const { assert, helper, temporaryFolder, test } = require('../script/harness');
-const { wellFormed } = require('../script/answers');
-const { bytesInUse } = require(process.env.KORVANE_COMPLETIONS);
+const {
+  assert, helper, openDescriptors, temporaryFolder, test,
+} = require('../script/harness');
+const { bytesInUse, complete, createWindow } =
+  require(process.env.KORVANE_ADDON);
 
 process.chdir(temporaryFolder());
 
 const calls = Number(process.env.KORVANE_CALLS) || 1000;
-// These start a process: they are called a fiftieth as often.
-const slow = { System: 50, getLogicalDriveStrings: 50 };
-// Bytes a call that stay by design: the registration of a function.
-const kept = { attachClipBoard: 500 };
-const root = parseInt(helper.System('xwininfo -root | grep -o 0x[0-9a-f]*'), 16);
-const given = Object.assign({}, wellFormed, {
+const display = process.env.DISPLAY;
+const window = createWindow();
+// Arguments of functions that do something, and those that others may test.
+const tested = [['a', 'b', 'c', () => {}], ['a', 'b', () => {}], ['a', 1]];
+const given = {
   System: [':'],
   attachClipBoard: [() => {}],
-  bringWindowToTop: [root],
+  bringWindowToTop: [window],
   compareStr: ['a', 'ä'],
-  enableWindow: [root, true],
+  enableWindow: [window, true],
   getKeyState: [65],
-  getTaskTypeFromUrl: ['http://h/'],
-  getWindowRect: [root],
+  getWindowRect: [window],
   isPingHostValid: ['http://localhost/'],
-  isWindowHandle: [root],
-  setWindowPos: [root, 0, 1, 2, 3, 4, 3],
-  moveWindow: [root, 1, 2, 3, 4, true],
-  showWindow: [root, 5],
-});
-
-const descriptors = () => fs.readdirSync('/proc/self/fd').length;
+  isWindowHandle: [window],
+  moveWindow: [window, 1, 2, 3, 4, true],
+  setWindowPos: [window, 0, 1, 2, 3, 4, 3],
+  showWindow: [window, 5],
+};
 
 function bytesUsed() {
   global.gc();
   return process.memoryUsage().heapUsed + bytesInUse();
 }
 
-// The least that a third of the calls added: the engine compiles in another.
-function growth(name, count) {
+// The bytes that a call adds: the least of three rounds, as the engine compiles
+// in another.
+function growth(count, call) {
   let least = Infinity;
-  let before = bytesUsed();
-  for (let third = 0; third < 3; third += 1) {
-    for (let i = 0; i < count; i += 1) helper[name](...given[name] || ['x', 1]);
-    const after = bytesUsed();
-    least = Math.min(least, after - before);
-    before = after;
+  for (let round = 0; round < 3; round += 1) {
+    const before = bytesUsed();
+    for (let i = 0; i < count; i += 1) call();
+    least = Math.min(least, bytesUsed() - before - 2000);
   }
-  return least;
+  return least / count;
 }
 
-function checkGrowth(name) {
-  const count = Math.ceil(calls / 3 / (slow[name] || 1));
-  const before = descriptors();
-  const bytes = growth(name, count);
-  const most = ((kept[name] || 0) + 8) * count + 2000;
-  assert(bytes <= most, `${count} calls keep ${bytes} bytes`);
-  assert.strictEqual(descriptors(), before, 'open descriptors');
+function keeps(least, most, count, call) {
+  const before = openDescriptors();
+  const bytes = growth(count, call);
+  assert(bytes >= least && bytes <= most, `a call keeps ${bytes} bytes`);
+  assert.strictEqual(openDescriptors(), before);
 }
-
-// On a display these keep a connection a call, as their own tests show.
-const scale = ['getMonitorDPIFactor', 'getSysDPIFactor'];
-
-test('the root window is there', () => assert(helper.isWindowHandle(root)));
 
 for (const name of Object.keys(helper)) {
-  if (scale.includes(name)) continue;
-  test(`${name} keeps nothing`, () => checkGrowth(name));
+  test(name, () => {
+    // With a display these keep a connection a call, by design.
+    if (/DPIFactor/.test(name)) process.env.DISPLAY = '';
+    const lists = given[name] ? [given[name]] : tested;
+    const call = () => lists.forEach((args) => helper[name](...args));
+    // These start a process.
+    const slow = /^System$|DriveStrings$/.test(name) ? 50 : 1;
+    // A registration is kept.
+    const kept = name === 'attachClipBoard' ? [30, 500] : [-Infinity, 8];
+    keeps(...kept, Math.ceil(calls / 3 / slow), call);
+    process.env.DISPLAY = display;
+  });
 }
 
-test('the display\'s scale keeps nothing where there is no display', () => {
-  delete process.env.DISPLAY;
-  scale.forEach(checkGrowth);
+test('completions', () => {
+  const holders = ['no isolate', 'no function', () => {}];
+  keeps(-Infinity, 8, calls, () => [0, 1, 2, 3, 4].forEach((row) => (
+    holders.forEach((holder) => complete(row, holder)))));
 });
