@@ -26,9 +26,10 @@ test('the factor is the screen\'s scale, truncated to two places', () => {
 test('every call leaves one connection open, until the server has no more',
   () => {
     const count = 'require("fs").readdirSync("/proc/self/fd").length';
-    const [before, after, factor, size] = on('1920x1080x24 -dpi 192', `[
-      ${count}, (${both}, ${count}), (new Array(300).fill().map(m.getSysDPIFactor),
-      m.getMonitorDPIFactor()), m.getDisplayWindowRect()]`);
+    const [before, after, factor, size] = on('1920x1080x24 -dpi 192',
+      `[${count}, (${both}, ${count}),
+        (new Array(300).fill().map(m.getSysDPIFactor), m.getMonitorDPIFactor()),
+        m.getDisplayWindowRect()]`);
     assert.strictEqual(after - before, 2);
     assert.deepStrictEqual([factor, size], [1, { width: 0, height: 0 }]);
   });

@@ -1,7 +1,7 @@
 'use strict';
 
-// Preloads failing_new. A function that cannot allocate returns its fallback and
-// leaves nothing open, and the next call works.
+// Preloads failing_new. A function that cannot allocate returns its fallback,
+// leaves nothing open, and works the next time.
 
 const { assert, check, helper, openDescriptors, test } =
   require('../script/harness');
