@@ -1,4 +1,4 @@
-// One ed2k file link: read from its text and printed back.
+// An ed2k link to a file: "ed2k://|file|NAME|SIZE|HASH|...|/".
 #ifndef KORVANE_ED2K_FILE_LINK_H_
 #define KORVANE_ED2K_FILE_LINK_H_
 
@@ -17,11 +17,11 @@ class ed2k_file_link {
 
   // A peer that has the file.
   struct source {
-    std::string host;  // as the link writes it: an address or a name
+    std::string host;  // an address or a name, as in the link
     std::uint16_t port = 0;
   };
 
-  // The fields that get_ed2k_url prints besides name, size and file hash.
+  // Optional fields for get_ed2k_url.
   enum : unsigned long {
     kPrintRootHash = 1,
     kPrintPartHashes = 2,
@@ -42,45 +42,48 @@ class ed2k_file_link {
   void set_file_hash(const file_hash& hash) { file_hash_ = hash; }
   const file_hash& get_file_hash() const { return file_hash_; }
 
-  // In the order of the file's parts; their number is not checked.
+  // In the order of the file's parts. Their number is not checked against the
+  // file's size.
   void set_part_hash(const std::list<file_hash>& hashes) {
     part_hashes_ = hashes;
   }
   const std::list<file_hash>& get_part_hash() const { return part_hashes_; }
 
-  // All zero when the link has none.
+  // All zero if the link has none.
   void set_root_hash(const root_hash& hash) { root_hash_ = hash; }
   const root_hash& get_root_hash() const { return root_hash_; }
 
-  // Adds at the end, unchecked: empty hosts and duplicates included.
+  // Appends without a check: the host may be empty or a duplicate.
   void add_source(const std::string& host, std::uint16_t port);
   const std::list<source>& get_source_list() const { return sources_; }
 
-  // A web address of the same file; empty when the link has none.
+  // A web address of the same file; empty if the link has none.
   void set_http_url(const std::wstring& url) { http_url_ = url; }
   const std::wstring& get_http_url() const { return http_url_; }
 
-  // Reads a link; returns whether `url` is one. On false the members hold what
-  // was read before the fault. Lists are added to; other members are replaced
-  // by what the link has.
+  // Parses `url` into this object; returns whether it is valid. On false, the
+  // object holds what was read before the error. Part hashes and sources are
+  // appended to those that the object has; other members are replaced if the
+  // link has them.
   //
-  // Kept: callers rely on all of these.
-  // - Of the size, the low 32 bits are read and the high ones stay as they
-  // were.
-  // - A name that needs decoding is cleaned of < > : " / \ | ? *, others not.
-  // - Optional fields are told by their key anywhere in them, "h=" before "p="
-  //   before "s=" before "sources,".
+  // Quirks:
+  // - Only the low 32 bits of the size are read; the high ones are not changed.
+  // - "< > : \" / \ | ? *" become "_" in a name with escapes, and stay in
+  // others.
+  // - The key of an optional field counts anywhere in the field, in the order
+  //   "h=", "p=", "s=", "sources,".
   bool create_from_ed2k_url(const std::wstring& url);
 
-  // Replace `out` with the link, in UTF-8 or wide; `flags` adds optional
-  // fields, filled or not. Nothing is escaped: a "|" or "%" in the name does
-  // not read back. Always true.
+  // Replace `out` with the link, as UTF-8 or wide. `flags` selects the optional
+  // fields; a selected field is printed even if it is empty. Names are not
+  // escaped: a link with "|" or "%" in its name cannot be read back. Return
+  // true.
   bool get_ed2k_url(std::string& out, unsigned long flags) const;
   bool get_ed2k_url(std::wstring& out, unsigned long flags) const;
 
-  // Replace every `from` in `text` by `to`, from left to right; what was put in
-  // is not searched. An empty `from` stands before every unit and at the end;
-  // with an empty `to` as well nothing changes.
+  // Replace every `from` in `text` with `to`, from left to right; inserted text
+  // is not searched again. An empty `from` inserts `to` before each character
+  // and at the end.
   static void string_replace(std::string& text, const std::string& from,
                              const std::string& to);
   static void string_replace(std::wstring& text, const std::wstring& from,
@@ -90,18 +93,17 @@ class ed2k_file_link {
   std::wstring file_name_;
   unsigned long file_size_;
   file_hash file_hash_;
-  [[maybe_unused]] unsigned char spare_ = 0;  // holds its place, no more
+  [[maybe_unused]] unsigned char spare_ = 0;
   root_hash root_hash_;
   std::list<file_hash> part_hashes_;
   std::list<source> sources_;
   std::wstring http_url_;
 };
 
-// The two upper-case digits of a byte.
+// Two upper-case hexadecimal digits: "E4".
 std::string char2hex(unsigned char byte);
 
-// Escapes the bytes from 0x80 on as "%" and two digits; "%" itself, blanks and
-// "|" stay.
+// Percent-encodes the bytes from 0x80 on; all others, "%" included, stay.
 std::string utf8_2_hexstr(const std::string& utf8);
 
 #endif  // KORVANE_ED2K_FILE_LINK_H_

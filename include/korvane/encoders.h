@@ -1,8 +1,9 @@
-// Bytes as base16, base32 and percent text, and back.
+// Base16, base32 and percent encoding of bytes. base64_encode and base64_decode
+// are in korvane_links.h.
 //
-// An encoder returns its text. A decoder replaces `out`, which must not be the
-// text that it reads; when it returns false, `out` holds what was decoded
-// before the bad character. A length of 0 needs no pointer.
+// A decoder replaces `out`, which must not contain the text that is decoded. If
+// it returns false, `out` holds the bytes before the invalid character. With a
+// length of 0 the pointer may be null.
 #ifndef KORVANE_ENCODERS_H_
 #define KORVANE_ENCODERS_H_
 
@@ -13,30 +14,32 @@
 // "ABCDEFGHIJKLMNOPQRSTUVWXYZ234567".
 extern const std::string DefaultBase32Map;
 
-// Two upper-case digits a byte.
+// Two upper-case digits for each byte.
 std::string encode_base16(const void* bytes, unsigned long length);
 
-// Reads digits of either case. Kept: callers rely on the seven characters
-// between "9" and "A" being read as 9. `out` gets `length` / 2 bytes, those
-// behind the first bad character unchanged or zero; an odd last digit is
-// checked and dropped.
+// Digits are case-insensitive; an odd last digit is checked and dropped. `out`
+// is resized to `length` / 2 bytes: on false, those from the invalid character
+// on have their old values or zero.
+// Quirk: the seven characters between "9" and "A" are read as 9.
 bool decode_base16(const char* text, unsigned long length, std::string& out);
 
-// The fewest digits that hold all bits, with no "=" behind them.
+// Alphabet as in RFC 4648, without "=" padding.
 std::string encode_base32(const void* bytes, unsigned long length);
 
-// Reads digits of either case and drops the bits left over at the end; "=" is
-// no digit.
+// Digits are case-insensitive; "=" is invalid. Bits that do not fill a byte at
+// the end are dropped.
 bool decode_base32(const char* text, unsigned long length, std::string& out);
 
-// Copies what isalpha takes for a letter and writes any other byte as "%" and
-// two characters: a half of 0 to 9 as "A" to "J", a half of 10 to 15 as ":" to
-// "?". One zero byte follows the text and counts in its length. Both are kept:
-// callers rely on them, though decode_url does not read this form.
+// Copies letters (isalpha in the current locale) and encodes every other byte
+// as
+// "%" and two characters.
+// Quirk: the digits are unusual, "A" to "J" for 0 to 9 and ":" to "?" for 10 to
+// 15, so decode_url does not decode them. A zero byte follows the text and is
+// part of the result.
 std::string encode_url(const void* bytes, unsigned long length);
 
-// Turns every "%" with two hexadecimal digits into the byte they name; any
-// other "%" stays. Always true.
+// Decodes "%" and two hexadecimal digits to a byte; any other "%" stays.
+// Returns true.
 bool decode_url(const char* text, unsigned long length, std::string& out);
 
 #endif  // KORVANE_ENCODERS_H_

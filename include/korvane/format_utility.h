@@ -1,44 +1,39 @@
-// Numbers as text, text as numbers, and byte counts for display.
+// Converts numbers to text and text to numbers, and formats byte counts.
 #ifndef KORVANE_FORMAT_UTILITY_H_
 #define KORVANE_FORMAT_UTILITY_H_
 
 #include <korvane/needs_cpp17.h>
 
 #include <cstdint>
-#include <limits>
-#include <optional>
 #include <string>
-#include <string_view>
 
 namespace qk::text {
 
-// For char and wchar_t. Decimal points and white space are those of the
-// process's locale. Texts end at their first zero unit and are not null.
-// Nothing reports an error.
+// For char and wchar_t. Text is zero-terminated and not null. Decimal points
+// and white space are those of the current locale. No function reports an
+// error.
 template <typename Unit>
 class format_utility_t {
  public:
   using String = std::basic_string<Unit>;
 
-  // Decimal digits with "-" in front of a negative number.
+  // Decimal: "-42".
   static String to_string(unsigned value);
   static String to_string(int value);
   static String to_string(unsigned long value);
   static String to_string(long value);
 
-  // Six digits behind the point. The text of a double ends after 127 units,
-  // however many more the number has.
+  // Six digits behind the decimal point: "1.500000". A double is cut to 127
+  // characters.
   static String to_string(float value);
   static String to_string(double value);
 
-  // Each reads the number that the text begins with behind white space; 0 if
-  // there is none. A number out of range is cut to the low bits of the 64-bit
-  // number nearest to it, as the C library's scan does.
-  //
-  // Kept, callers rely on the difference: the wide str_to_sint32 reads 0x1F as
-  // 31 and 010 as 8, the narrow one reads decimal digits only; the wide
-  // str_to_sint64 gives the bits of an unsigned number beyond the signed range,
-  // the narrow one the end of the signed range.
+  // Read the number at the start of the text, behind optional white space; 0 if
+  // there is none. Integers saturate at 64 bits and are then cut to the size of
+  // the result.
+  // Quirks of the wide functions: str_to_sint32 also reads "0x1F" as 31 and
+  // "010" as 8; str_to_sint64 reads up to the unsigned limit and returns the
+  // same bits as a signed number.
   static std::uint32_t str_to_uint32(const Unit* text);
   static std::int32_t str_to_sint32(const Unit* text);
   static std::uint64_t str_to_uint64(const Unit* text);
@@ -46,35 +41,16 @@ class format_utility_t {
   static float str_to_float32(const Unit* text);
   static double str_to_float64(const Unit* text);
 
-  // Whether the text is "true", in either case, or "1".
+  // True for "true", case-insensitively, and "1".
   static bool str_to_bool(const Unit* text);
 
-  // A byte count in the largest binary unit that it exceeds, "1.50KB"; up to
-  // 1024 in whole bytes, "1024B". Empty for a negative count or no number.
+  // Formats a byte count: "1024B", "1.50KB", ... "TB". 1 KB is 1024 bytes, and
+  // a unit is used above 1 of it. Empty for a negative number and for NaN.
   static String kilo_format(double bytes);
 };
 
 extern template class format_utility_t<char>;
 extern template class format_utility_t<wchar_t>;
-
-// The number that `digits` stand for: the largest number if it is beyond 64
-// bits, 0 if there are none, nothing if one is no decimal digit. What
-// str_to_uint64 gives for digits, and str_to_uint32 in its low half, without a
-// terminator.
-template <typename Unit>
-constexpr std::optional<std::uint64_t> decimal_value(
-    std::basic_string_view<Unit> digits) {
-  constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
-  std::uint64_t value = 0;
-  for (const Unit unit : digits) {
-    if (unit < Unit('0') || unit > Unit('9')) return std::nullopt;
-    const auto digit = static_cast<std::uint64_t>(unit - Unit('0'));
-    const bool fits =
-        value < kMost / 10 || (value == kMost / 10 && digit <= kMost % 10);
-    value = fits ? value * 10 + digit : kMost;
-  }
-  return value;
-}
 
 }  // namespace qk::text
 

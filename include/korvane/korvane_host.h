@@ -1,13 +1,10 @@
-// The host's support library: what the link library calls and does not define.
+// The host's support library: functions that the link library calls. In the
+// product the host program defines them; everywhere else libkorvane_host.so
+// does.
 //
-// In the product these functions come from the host program; libkorvane_host.so
-// is a build of them for every other place. Text conversions share three rules:
-//
-// 1. The default narrow encoding is UTF-8, whatever the locale.
-// 2. A conversion ends at the first zero unit; the conversions to narrow text
-//    also at the first unit that is no character. The result is what precedes
-//    it.
-// 3. Nothing is reported; only running out of memory throws.
+// The text conversions end at the first zero; those to narrow text also before
+// the first code unit that is not a character. The default narrow encoding is
+// UTF-8, in every locale. Only running out of memory throws.
 #ifndef KORVANE_KORVANE_HOST_H_
 #define KORVANE_KORVANE_HOST_H_
 
@@ -15,40 +12,38 @@
 
 #include <string>
 
-// Wide text in the default narrow encoding.
+// Converts wide text to the default narrow encoding.
 std::string wstring_2_string(const std::wstring& text);
 
-// Wide text in UTF-8.
+// Converts wide text to UTF-8.
 std::string wstring_2_utf8(const std::wstring& text);
 
-// Bytes in the default narrow encoding as wide text: the same as
-// string_to_wstring_with_code_page(text, 0).
+// Same as string_to_wstring_with_code_page(text, 0).
 std::wstring string_2_wstring(const std::string& text);
 
-// Bytes in `code_page` as wide text, up to the first zero byte. Code pages are
-// numbered as desktop systems number them (65001 UTF-8, 936 GBK, 1252 Western,
-// ...). The rest of the text is never lost:
+// Converts bytes in `code_page` to wide text. Code pages have the numbers of
+// desktop systems: 65001 UTF-8, 936 GBK, 1252 Western, ...
 //
-// - 0, -1, an unknown number, and a code page in which some of the bytes are
-//   invalid mean the default reading: UTF-8 if all bytes are valid UTF-8,
-//   otherwise GBK if all are valid GBK, otherwise Western.
-// - In that last case the five bytes that Western leaves undefined (81, 8D, 8F,
-//   90, 9D) become the characters of the same numbers.
+// 0, -1 and unknown numbers mean the default: UTF-8 if all bytes are valid
+// UTF-8, otherwise GBK if all are valid GBK, otherwise Western. A code page in
+// which some of the bytes are invalid is ignored in favor of the default.
+// Western reads all bytes (81, 8D, 8F, 90 and 9D become U+0081, ...), so text
+// is never cut.
 std::wstring string_to_wstring_with_code_page(const std::string& text,
                                               int code_page);
 
 namespace qk {
 
-// Records the calling thread's error code.
+// Sets the error code of the calling thread.
 void set_last_error(unsigned code);
 
-// The code last recorded by the calling thread; 0 before the first.
+// The error code of the calling thread; initially 0.
 unsigned get_last_error();
 
 namespace crypto::base64 {
 
-// Replaces `out` with the base64 text of `in`: standard alphabet, "=" padding,
-// no line breaks. `in` and `out` may be one string.
+// Replaces `out` with the base64 of `in`: standard alphabet, "=" padding, no
+// line breaks. `in` and `out` may be the same string.
 void encode(const std::string& in, std::string& out);
 
 }  // namespace crypto::base64

@@ -1,5 +1,5 @@
-// The program's private links: "korvane://" and the base64 form of a URL that
-// stands between two markers.
+// Private links: "korvane://" and the base64 of a URL between two markers, "AA"
+// and "ZZ".
 #ifndef KORVANE_KORVANE_URL_H_
 #define KORVANE_KORVANE_URL_H_
 
@@ -7,19 +7,19 @@
 
 #include <string>
 
-// For char and wchar_t. Texts are zero-terminated and may be null.
+// For char and wchar_t. Text is zero-terminated; null is the same as empty.
 template <typename Char>
 class korvane_url_t {
  public:
   // "korvane://"; narrow only.
   static const char s_schema[];
 
-  // The private link to `url`, narrow text in both forms; empty for no or empty
-  // text. Only the narrow form then records the error 20100001 (kept: callers
-  // rely on it).
+  // Returns the private link for `url`, which is narrow in both forms. Empty
+  // for an empty URL. Quirk: only the narrow form then sets the error code
+  // 20100001.
   static std::basic_string<Char> encode(const char* url);
 
-  // Always empty: private links are not read on this platform.
+  // Returns empty text: private links are not decoded on this platform.
   static std::string decode(const Char* link);
 };
 

@@ -1,27 +1,24 @@
-// Comparison and search without regard to case.
+// Case-insensitive comparison and search.
 #ifndef KORVANE_STRING_UTILITY_H_
 #define KORVANE_STRING_UTILITY_H_
 
 #include <korvane/needs_cpp17.h>
 
-#include <cstddef>
-#include <string_view>
-
 namespace qk::text {
 
-// For char and wchar_t. Texts end at their first zero unit; the process's
-// locale says what a unit's other case is.
+// For char and wchar_t. Text is zero-terminated. Upper and lower case are those
+// of the current locale.
 template <typename Unit>
 class string_utility_t {
  public:
-  // The sign of the comparison, 0 for equal texts. Neither may be null.
+  // Like strcasecmp and wcscasecmp. Neither pointer may be null.
   static int compare_nocase(const Unit* a, const Unit* b);
 
-  // The same. Kept: callers rely on the count not limiting the comparison.
+  // Quirk: `count` is ignored; the whole text is compared.
   static int compare_nocase(const Unit* a, const Unit* b, unsigned count);
 
-  // Wide only: where `pattern` first stands in `text`, or null. Null when one
-  // of them is null or empty.
+  // wchar_t only. The first `pattern` in `text`, or null if there is none or if
+  // one of them is null or empty. Code units of 256 and above have no case.
   static const Unit* find_nocase(const Unit* text, const Unit* pattern);
 };
 
@@ -40,9 +37,9 @@ template <>
 const wchar_t* string_utility_t<wchar_t>::find_nocase(const wchar_t* text,
                                                       const wchar_t* pattern);
 
-// Where `pattern` first stands in `text`, both taken whole; npos if nowhere or
-// if one is empty. Units of 256 and above have no other case.
-std::size_t find_nocase(std::wstring_view text, std::wstring_view pattern);
+template <>
+const char* string_utility_t<char>::find_nocase(const char* text,
+                                                const char* pattern) = delete;
 
 }  // namespace qk::text
 

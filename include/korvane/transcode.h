@@ -1,5 +1,4 @@
-// Conversions between wide text (UTF-32 in wchar_t), UTF-8, GBK and the ANSI
-// code page (Western, "MS-ANSI").
+// Converts between wide text (UTF-32), UTF-8, GBK and ANSI (Western, 1252).
 #ifndef KORVANE_TRANSCODE_H_
 #define KORVANE_TRANSCODE_H_
 
@@ -9,17 +8,17 @@
 
 namespace qk::text {
 
-// Every function takes a pointer to text with its length in units (bytes, or
-// wchar_t units), and replaces the output string whole. `text` may point into
-// the output string.
+// Every function replaces the output string with the conversion of `length`
+// code units at `text`, which may point into the output string.
 class transcode {
  public:
-  // The converters. Null text or length 0 empties the output. The result ends
-  // at the first zero unit, at the first invalid, incomplete or unmappable
-  // sequence, and where the output room is used up: 3 x length + 1 bytes for
-  // Unicode_to_UTF8 and 2 x length for GBK_to_UTF8, so text of several
-  // characters beyond U+FFFF, or of signs of the euro alone, may be cut; more
-  // than any valid text needs for the others. Nothing is reported.
+  // The result ends at the first zero, before the first invalid, incomplete or
+  // unmappable sequence, and at the output limit. Null text and length 0 empty
+  // the output. No function reports an error.
+  //
+  // Output limits: 3 x length + 1 bytes for Unicode_to_UTF8, so text of several
+  // characters beyond U+FFFF may be cut; 2 x length bytes for GBK_to_UTF8, so
+  // text of euro signs may be cut. The others have the capacity for any text.
   static void Unicode_to_UTF8(const wchar_t* text, unsigned length,
                               std::string& utf8);
   static void UTF8_to_Unicode(const char* text, unsigned length,
@@ -35,11 +34,12 @@ class transcode {
   static void ANSI_to_Unicode(const char* text, unsigned length,
                               std::wstring& wide);
 
-  // The tstring family: the program's text string in its narrow and its wide
-  // form. Narrow text counts as GBK where it meets UTF-8 or GBK, and as ANSI
-  // where it meets wide text or ANSI (kept: callers rely on the mixture).
-  // Where both sides are the same, exactly `length` units are copied, zero
-  // units included; `text` is then not checked for null.
+  // A "tstring" is text in the program's own form, narrow or wide.
+  // Quirk: narrow text is GBK in conversions from and to UTF-8 and GBK, and
+  // ANSI in those from and to wide text and ANSI.
+  //
+  // If both sides are the same, exactly `length` code units are copied, zeros
+  // included; then `text` must not be null.
   static void UTF8_to_tstring(const char* text, unsigned length,
                               std::string& gbk);
   static void UTF8_to_tstring(const char* text, unsigned length,

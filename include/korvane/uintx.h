@@ -1,4 +1,4 @@
-// A number of fixed width, as hashes are.
+// A hash of fixed size.
 #ifndef KORVANE_UINTX_H_
 #define KORVANE_UINTX_H_
 
@@ -6,10 +6,10 @@
 
 #include <array>
 
-// Its bytes in the order in which a link writes them; zero when new.
+// The bytes are in the order of their digits in a link; initially zero.
 template <unsigned bits, unsigned bytes>
 struct uintx {
-  static_assert(bits == 8 * bytes, "a byte has 8 bits");
+  static_assert(bits == 8 * bytes, "bits is 8 x bytes");
 
   std::array<unsigned char, bytes> octets{};
 
@@ -19,7 +19,7 @@ struct uintx {
   friend bool operator!=(const uintx& a, const uintx& b) { return !(a == b); }
 };
 
-static_assert(sizeof(uintx<128, 16>) == 16, "nothing but the bytes");
-static_assert(sizeof(uintx<160, 20>) == 20, "nothing but the bytes");
+static_assert(sizeof(uintx<128, 16>) == 16, "no padding");
+static_assert(sizeof(uintx<160, 20>) == 20, "no padding");
 
 #endif  // KORVANE_UINTX_H_

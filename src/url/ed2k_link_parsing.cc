@@ -13,10 +13,10 @@
 #include <string_view>
 
 #include <korvane/ed2k_file_link.h>
-#include <korvane/format_utility.h>
 #include <korvane/korvane_links.h>
 #include <korvane/transcode.h>
 #include "text/ascii.h"
+#include "text/decimal.h"
 #include "text/utf8.h"
 #include "url/base_decoding.h"
 #include "url/character_classes.h"

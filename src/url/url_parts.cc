@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include <korvane/format_utility.h>
+#include "text/decimal.h"
 #include "url/character_classes.h"
 #include "url/percent_coding.h"
 #include "url/schemes.h"
