@@ -15,6 +15,7 @@
 #include <map>
 #include <memory>
 #include <sstream>
+#include <string_view>
 
 #include <korvane/bt_magnet_url_parser.h>
 #include <korvane/ed2k_file_link.h>
@@ -139,12 +140,13 @@ bool libcurl_decode(const char* text, std::size_t size) {
 }
 
 bool libcurl_file_name(const Text& url) {
-  const char* text = url.narrow.c_str();
-  const std::size_t end = std::strcspn(text, "?#");
-  const void* slash = memrchr(text, '/', end);
+  const std::string_view text = url.narrow;
+  const std::size_t end =
+      std::min({text.find('?'), text.find('#'), text.size()});
+  const auto* slash = static_cast<const char*>(memrchr(text.data(), '/', end));
   if (slash == nullptr) return false;
-  const char* begin = static_cast<const char*>(slash) + 1;
-  return libcurl_decode(begin, static_cast<std::size_t>(text + end - begin));
+  return libcurl_decode(
+      slash + 1, static_cast<std::size_t>(text.data() + end - slash - 1));
 }
 
 bool libcurl_decode(const Text& text) {

@@ -13,15 +13,13 @@ const goals = fs.readFileSync(`${__dirname}/data/goals.tsv`, 'utf8').split('\n')
   .filter((line) => line !== '' && !line.startsWith('#')).map((line) => line.split('\t'));
 
 // By WORKLOAD/LIST and contender: the median, in nanoseconds.
-function medians() {
+function medians(file) {
   const times = {};
-  files.forEach((file) => {
-    JSON.parse(fs.readFileSync(file, 'utf8')).benchmarks.forEach((turn) => {
-      if (turn.run_type === 'aggregate') return;
-      const [, row, contender] = turn.name.match(/^(.*?\/[^/]*)\/([^/]*)/);
-      times[row] = times[row] || {};
-      (times[row][contender] = times[row][contender] || []).push(turn.cpu_time);
-    });
+  JSON.parse(fs.readFileSync(file, 'utf8')).benchmarks.forEach((turn) => {
+    if (turn.run_type === 'aggregate') return;
+    const [, row, contender] = turn.name.match(/^(.*?\/[^/]*)\/([^/]*)/);
+    times[row] = times[row] || {};
+    (times[row][contender] = times[row][contender] || []).push(turn.cpu_time);
   });
   Object.values(times).forEach((row) => Object.keys(row).forEach((contender) => {
     const sorted = row[contender].sort((a, b) => a - b);
@@ -39,9 +37,9 @@ function addWorst(row) {
 
 const fits = (pattern, text) => new RegExp(`^${pattern.split('*').join('.*')}$`).test(text);
 
-function rows() {
+function rows(file) {
   const result = [];
-  Object.entries(medians()).forEach(([row, times]) => {
+  Object.entries(medians(file)).forEach(([row, times]) => {
     if (times[100]) addWorst(times);
     const [workload, list] = row.split('/');
     const peers = new Set();
@@ -81,7 +79,7 @@ function draw(all) {
 <rect ${size} fill="#fff"/>\n${drawn.join('\n')}\n</svg>\n`;
 }
 
-const all = rows();
+const all = [].concat(...files.map(rows));
 print(all);
 fs.writeFileSync(picture, draw(all.filter((row) => row.drawn)));
 const met = all.filter((row) => row.met).length;
