@@ -3,23 +3,19 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <string_view>
 
 #include <korvane/korvane_links.h>
+#include "text/base64_encoding.h"
 #include "text/digit_tables.h"
 
 namespace {
 
 using namespace qk::text;
 
-constexpr std::string_view kAlphabet =
-    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-constexpr DigitPairs<64> kPairs = make_digit_pairs<64>(kAlphabet);
-constexpr DigitValues kValues = make_digit_values(kAlphabet);
+constexpr DigitValues kValues = make_digit_values(kBase64Alphabet);
 
-constexpr std::size_t kPairSize = 2;
 constexpr std::size_t kGroupBytes = 3;
 constexpr std::size_t kGroupDigits = 4;
 constexpr unsigned kMostPadding = 2;
@@ -45,32 +41,6 @@ constexpr std::array<PlacedValues, kGroupDigits> make_placed_values() {
 constexpr std::array<PlacedValues, kGroupDigits> kPlaced = make_placed_values();
 
 unsigned char octet(char unit) { return static_cast<unsigned char>(unit); }
-
-// Writes the four digits of three bytes.
-void encode_group(const unsigned char* bytes, char* digits) {
-  const std::uint32_t bits =
-      std::uint32_t{bytes[0]} << 16 | std::uint32_t{bytes[1]} << 8 | bytes[2];
-  std::memcpy(digits, kPairs[bits >> 12].data(), kPairSize);
-  std::memcpy(digits + kPairSize, kPairs[bits & 4095].data(), kPairSize);
-}
-
-// Unrolled, short texts take two thirds of the time.
-void encode_groups(const unsigned char* bytes, std::size_t groups,
-                   char* digits) {
-#pragma GCC unroll 4
-  for (std::size_t i = 0; i < groups; ++i) {
-    encode_group(bytes + kGroupBytes * i, digits + kGroupDigits * i);
-  }
-}
-
-// Writes the digits of the last one or two bytes and the padding.
-void encode_rest(const unsigned char* bytes, std::size_t count, char* digits) {
-  const unsigned char second = count > 1 ? bytes[1] : 0;
-  const unsigned char group[kGroupBytes] = {bytes[0], second, 0};
-  encode_group(group, digits);
-  if (count == 1) digits[2] = '=';
-  digits[3] = '=';
-}
 
 // Whether `size` fits in `*capacity`; if not, `*capacity` becomes `size`.
 bool fits(std::uint64_t size, unsigned* capacity) {
@@ -210,16 +180,9 @@ std::size_t decode(std::string_view text, unsigned char* bytes) {
 int base64_encode(char* destination, unsigned* destination_length,
                   const unsigned char* source, unsigned source_length) {
   if (source == nullptr || source_length == 0) return BASE64_E_BUFFER;
-  const std::uint64_t length =
-      (std::uint64_t{source_length} + 2) / kGroupBytes * kGroupDigits;
+  const std::uint64_t length = base64_size(source_length);
   if (!fits(length + 1, destination_length)) return BASE64_E_BUFFER;
-  const std::size_t groups = source_length / kGroupBytes;
-  const std::size_t rest = source_length % kGroupBytes;
-  encode_groups(source, groups, destination);
-  if (rest != 0) {
-    encode_rest(source + kGroupBytes * groups, rest,
-                destination + kGroupDigits * groups);
-  }
+  encode_base64(source, source_length, destination);
   destination[length] = '\0';
   *destination_length = static_cast<unsigned>(length);
   return 0;
