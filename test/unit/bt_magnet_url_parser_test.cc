@@ -47,7 +47,7 @@ TEST(bt_magnet_url_parser, BeginsExactlyAndNeedsAHash) {
 TEST(bt_magnet_url_parser, HashesHave32Or40Characters) {
   row(kLink + L"0123456789abcdef0123456789abcdef01234567\0x"s, L"yes");
   row(kLink + kBase32 + L"\xD800", L"yes");
-  for (const std::size_t size : {0, 31, 33, 39, 41}) {
+  for (const std::size_t size : {0U, 31U, 33U, 39U, 41U}) {
     row(kLink + Text(size, L'A'), L"hash ");
   }
   // A bad digit ends base32 at its group and base16 at its byte.

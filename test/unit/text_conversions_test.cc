@@ -3,44 +3,21 @@
 #include <korvane/korvane_host.h>
 #include <korvane/transcode.h>
 #include "table.h"
-#include "text/utf8.h"
 
 namespace {
-
-TEST(utf8, HasTheCharactersUpTo10FFFF) {
-  const Table row = [](const Text& text, const Bytes& want) {
-    EXPECT_EQ(wstring_2_utf8(text), want);
-    EXPECT_EQ(wstring_2_string(text), want);
-    EXPECT_EQ(string_2_wstring(want), text);
-  };
-  row(L"", "");
-  row(L"plain\x7F\x80", "plain\x7F\xC2\x80");
-  row(L"\x7FF\x800", "\xDF\xBF\xE0\xA0\x80");
-  row(L"\xD7FF\xE000", "\xED\x9F\xBF\xEE\x80\x80");
-  row(L"\xFFFF\x10000", "\xEF\xBF\xBF\xF0\x90\x80\x80");
-  row(L"\x10FFFF\x10FFFF", "\xF4\x8F\xBF\xBF\xF4\x8F\xBF\xBF");
-  for (const wchar_t bad : L"\0\xD800\xDFFF\x110000\x80000000\xFFFFFFFF"s) {
-    EXPECT_EQ(wstring_2_utf8({L'\xE9', bad}), "\xC3\xA9") << std::hex << bad;
-    Bytes utf8;
-    EXPECT_EQ(qk::text::encode_utf8(Text(1, bad), utf8), bad == 0);
-  }
-}
-
-TEST(utf8, DecodingEndsAtWhatIsNoCharacter) {
-  for (const Bytes bad :
-       {"\x80", "\xC1\xBF", "\xC3", "\xC3\xC0", "\xDF\x7F", "\xE0\x9F\xBF",
-        "\xE4\xB8", "\xE4\xB8\xC0", "\xED\xA0\x80", "\xED\xBF\xBF",
-        "\xF0\x8F\xBF\xBF", "\xF0\x90\x80", "\xF4\x90\x80\x80",
-        "\xF8\x88\x88\x88\x80", "\xFF"}) {
-    Text text = L"old";
-    EXPECT_FALSE(qk::text::decode_utf8("a" + bad, text)) << bad;
-    EXPECT_EQ(text, L"a") << testing::PrintToString(bad);
-  }
-}
 
 const Table decoded = [](const Bytes& bytes, int code_page, const Text& want) {
   EXPECT_EQ(string_to_wstring_with_code_page(bytes, code_page), want);
 };
+
+TEST(text_conversions, NarrowTextIsUtf8UpToAZero) {
+  for (const Text& text :
+       {L"caf\xE9\x1F600\x1F600\0\xE9"s, L"plain\0"s, L""s}) {
+    const Text ended = text.c_str();
+    EXPECT_EQ(string_2_wstring(wstring_2_utf8(text)), ended);
+    EXPECT_EQ(string_2_wstring(wstring_2_string(text)), ended);
+  }
+}
 
 // UTF-8, otherwise GBK, otherwise Western.
 TEST(text_conversions, TheDefaultEncodingReadsAnyName) {

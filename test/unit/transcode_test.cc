@@ -2,6 +2,7 @@
 
 #include "table.h"
 #include "text/iconv_conversion.h"
+#include "text/utf8.h"
 
 namespace {
 
@@ -72,6 +73,38 @@ TEST(transcode, ReadsNoNullTextAndItsOutput) {
   EXPECT_EQ(text, "\xD6\xD0\x61");
   transcode::UTF8_to_GBK(nullptr, 1, text);
   EXPECT_EQ(text, "");
+}
+
+TEST(utf8, HasTheCharactersUpTo10FFFF) {
+  const Table row = [](const Text& text, const Bytes& want) {
+    Bytes utf8 = "old";
+    Text wide = L"old";
+    EXPECT_TRUE(qk::text::encode_utf8(text, utf8));
+    EXPECT_EQ(utf8, want);
+    EXPECT_TRUE(qk::text::decode_utf8(want, wide));
+    EXPECT_EQ(wide, text);
+  };
+  row(L"", "");
+  row(L"\0\x7F\x80"s, "\0\x7F\xC2\x80"s);
+  row(L"\x7FF\x800", "\xDF\xBF\xE0\xA0\x80");
+  row(L"\xD7FF\xE000", "\xED\x9F\xBF\xEE\x80\x80");
+  row(L"\xFFFF\x10000", "\xEF\xBF\xBF\xF0\x90\x80\x80");
+  row(L"\x10FFFF\x10FFFF", "\xF4\x8F\xBF\xBF\xF4\x8F\xBF\xBF");
+  for (const wchar_t bad : L"\xD800\xDFFF\x110000\x80000000\xFFFFFFFF"s) {
+    Bytes utf8;
+    EXPECT_FALSE(qk::text::encode_utf8(Text{L'a', bad}, utf8))
+        << std::hex << bad;
+    EXPECT_EQ(utf8, "a");
+  }
+  for (const Bytes bad :
+       {"\x80", "\xC1\xBF", "\xC3", "\xC3\xC0", "\xDF\x7F", "\xE0\x9F\xBF",
+        "\xE4\xB8", "\xE4\xB8\xC0", "\xED\xA0\x80", "\xED\xBF\xBF",
+        "\xF0\x8F\xBF\xBF", "\xF0\x90\x80", "\xF4\x90\x80\x80",
+        "\xF8\x88\x88\x88\x80", "\xFF"}) {
+    Text text = L"old";
+    EXPECT_FALSE(qk::text::decode_utf8("a" + bad, text)) << bad;
+    EXPECT_EQ(text, L"a") << testing::PrintToString(bad);
+  }
 }
 
 TEST(iconv_conversion, AnUnknownCharacterSetConvertsNothing) {

@@ -5,7 +5,7 @@
 
 namespace {
 
-TEST(url_object, SchemesAreWholeAndOfEitherCase) {
+TEST(schemes, AreWholeAndInAnyCase) {
   const Table row = [](const Text& schema, unsigned type, unsigned port) {
     url_object url;
     url.schema = schema;
