@@ -1,14 +1,11 @@
-# The script runtime that the module is built for. Sets KORVANE_MODULE, unless
-# it is set, to whether its headers are here; adds script_runtime, which brings
-# them.
+# The script runtime that the module is built for. KORVANE_MODULE is ON where
+# its headers are installed, unless set; the target script_runtime adds them.
 set(KORVANE_RUNTIME 8
   CACHE STRING "Major version of the script runtime; 8 is the product's")
 
-# The names of architectures in the runtime.
-set(NODE_ARCHITECTURE ${CMAKE_SYSTEM_PROCESSOR})
-if(CMAKE_SYSTEM_PROCESSOR STREQUAL x86_64)
-  set(NODE_ARCHITECTURE x64)
-elseif(CMAKE_SYSTEM_PROCESSOR STREQUAL aarch64)
+# As the runtime calls it.
+set(NODE_ARCHITECTURE x64)
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL aarch64)
   set(NODE_ARCHITECTURE arm64)
 endif()
 
@@ -21,26 +18,17 @@ if(NOT DEFINED KORVANE_MODULE AND KORVANE_NODE_DIR)
   set(KORVANE_MODULE ON)
 endif()
 if(NOT KORVANE_MODULE)
-  message(STATUS "Building the link library alone, not the module")
+  message(STATUS "Building the link library without the module")
   return()
 endif()
 if(NOT KORVANE_NODE_DIR)
   message(FATAL_ERROR "Node.js ${KORVANE_RUNTIME} is not in ${PACKAGES}: "
-    "'script/bootstrap build runtime-${KORVANE_RUNTIME}' installs it")
+    "script/bootstrap runtime-${KORVANE_RUNTIME} installs it")
 endif()
 
-function(read_version name result)
-  file(STRINGS ${KORVANE_NODE_DIR}/include/node/node_version.h line
-    REGEX "^#define ${name} +[0-9]+")
-  string(REGEX MATCH "[0-9]+" number "${line}")
-  set(${result} ${number} PARENT_SCOPE)
-endfunction()
-read_version(NODE_MAJOR_VERSION NODE_MAJOR)
-read_version(NODE_MODULE_VERSION NODE_ABI)
-if(NOT NODE_MAJOR EQUAL KORVANE_RUNTIME)
-  message(FATAL_ERROR "KORVANE_NODE_DIR=${KORVANE_NODE_DIR} holds Node.js "
-    "${NODE_MAJOR}, KORVANE_RUNTIME is ${KORVANE_RUNTIME}")
-endif()
+file(STRINGS ${KORVANE_NODE_DIR}/include/node/node_version.h NODE_ABI
+  REGEX "^#define NODE_MODULE_VERSION +[0-9]")
+string(REGEX MATCH "[0-9]+" NODE_ABI ${NODE_ABI})
 
 find_package(X11 REQUIRED)
 add_library(script_runtime INTERFACE)
@@ -48,6 +36,6 @@ target_include_directories(script_runtime SYSTEM INTERFACE
   ${KORVANE_NODE_DIR}/include/node)
 target_compile_definitions(script_runtime INTERFACE
   KORVANE_RUNTIME=${KORVANE_RUNTIME})
-if(NODE_MAJOR GREATER 22)
+if(KORVANE_RUNTIME GREATER 22)
   target_compile_features(script_runtime INTERFACE cxx_std_20)
 endif()
