@@ -78,11 +78,11 @@ TEST(transcode, ReadsNoNullTextAndItsOutput) {
 TEST(utf8, HasTheCharactersUpTo10FFFF) {
   const Table row = [](const Text& text, const Bytes& want) {
     Bytes utf8 = "old";
-    Text wide = L"old";
+    Text decoded = L"old";
     EXPECT_TRUE(qk::text::encode_utf8(text, utf8));
     EXPECT_EQ(utf8, want);
-    EXPECT_TRUE(qk::text::decode_utf8(want, wide));
-    EXPECT_EQ(wide, text);
+    EXPECT_TRUE(qk::text::decode_utf8(want, decoded));
+    EXPECT_EQ(decoded, text);
   };
   row(L"", "");
   row(L"\0\x7F\x80"s, "\0\x7F\xC2\x80"s);
