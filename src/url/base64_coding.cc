@@ -52,8 +52,8 @@ bool fits(std::uint64_t size, unsigned* capacity) {
 
 bool is_line_break(char unit) { return unit == '\r' || unit == '\n'; }
 
-// How many bytes the line break at the start of `text` takes: a line feed, with
-// or without a carriage return before it; 0 if there is none.
+// The size of the line break at the start of `text`: a line feed, with or
+// without a carriage return before it; 0 if there is none.
 std::size_t line_break_size(std::string_view text) {
   if (text[0] == '\n') return 1;
   return text.substr(0, 2) == "\r\n" ? 2 : 0;
@@ -156,7 +156,7 @@ std::size_t decode_groups(std::string_view text, unsigned char* bytes) {
   return groups;
 }
 
-// Decodes valid text; a last group of fewer than four digits gives nothing.
+// Decodes valid text; a last group of fewer than four digits is dropped.
 std::size_t decode(std::string_view text, unsigned char* bytes) {
   std::size_t written = 0;
   std::size_t position = 0;

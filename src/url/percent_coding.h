@@ -30,15 +30,15 @@ enum class Kept {
   kSeparating,  // those of reserved characters, so that a URL keeps its parts
 };
 
-// Writes `text` with each escape replaced by the unit of its value, 0 to 255,
-// to `out` and returns the end. Writes text.size() units at the most; `out`
-// may be the start of the text itself. A "%" that opens no escape is copied.
-// `see` is called with each unit that is written.
+// Writes `text` to `out` with each escape replaced by the code unit of its
+// value, 0 to 255, and returns the end: at most text.size() code units. `out`
+// may be the start of the text itself. A "%" that begins no escape is copied.
+// `see` is called with each code unit before it is written.
 //
-// Stops at the first unit outside of escapes that `ends` tells to; `text`
-// becomes what is left from there on.
+// Stops at the first code unit outside of escapes for which `ends` returns
+// true; `text` becomes what is left from there on.
 //
-// The units may be narrowed: wide ASCII text decodes straight to bytes.
+// Wide ASCII text may be decoded to bytes.
 template <Kept kKept = Kept::kNothing, typename In, typename Out, typename See,
           typename Ends>
 Out* percent_decode_until(Ends ends, std::basic_string_view<In>& text, Out* out,

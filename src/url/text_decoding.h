@@ -14,18 +14,18 @@
 
 namespace qk::url {
 
-// Room for the text that a decoder makes: on the stack while it has no more
-// than `kShort` units, none of which is filled in advance.
+// A buffer for decoded text: on the stack for up to `kShort` code units, which
+// are not initialised, otherwise on the heap.
 template <std::size_t kShort>
 class Scratch {
  public:
-  // Room for `size` units; what it held is gone unless it had room already.
+  // A buffer for `size` code units. It may replace the one before.
   wchar_t* reserve(std::size_t size) {
     if (size <= kShort) return short_.data();
     long_.resize(size);
     return long_.data();
   }
-  // Takes `text` over and gives a view of it.
+  // Keeps `text` and returns a view of it.
   std::wstring_view hold(std::wstring&& text) {
     long_ = std::move(text);
     return long_;

@@ -12,6 +12,7 @@ namespace qk::url {
 namespace {
 
 constexpr std::size_t kNowhere = std::wstring_view::npos;
+constexpr std::wstring_view kIndexName = L"index.html";
 constexpr std::size_t kLongestSearchedName = 1023;
 
 // In the order in which they are searched for.
@@ -124,11 +125,11 @@ FileName find_file_name(ClassifiedText& text, unsigned code_page,
 }
 
 void write_file_name(const FileName& name, wchar_t* out) {
-  if (!name.is_clean) {
+  if (name.is_clean) {
+    std::copy(name.text.begin(), name.text.end(), out);
+  } else {
     std::replace_copy_if(name.text.begin(), name.text.end(), out, is_illegal,
                          L'_');
-  } else if (name.text.data() != out) {
-    std::copy(name.text.begin(), name.text.end(), out);
   }
 }
 

@@ -9,8 +9,6 @@
 
 namespace qk::url {
 
-constexpr std::wstring_view kIndexName = L"index.html";
-
 // The text after the last "\" or "/"; all of `text` if there is none.
 ClassifiedText last_segment(std::wstring_view text);
 
@@ -19,14 +17,13 @@ struct FileName {
   bool is_clean;           // false: may contain what no file name may contain
 };
 
-// The name for what `text`, which is decoded in place, leads to. A view of
-// `text`, of `scratch` or of kIndexName; not longer than kIndexName and `text`,
-// unless the host's conversion is.
+// The name of the file that `text` leads to, which is decoded. A view of
+// `text`, of `scratch` or of a constant; write_file_name cleans it.
 FileName find_file_name(ClassifiedText& text, unsigned code_page,
                         ScratchText& scratch);
 
 // Writes name.text.size() code units to `out`, with "_" for each character that
-// no file name may contain. The name may be in `out` or behind.
+// no file name may contain.
 void write_file_name(const FileName& name, wchar_t* out);
 
 // The word in `text` that ends in a known file extension followed by white
