@@ -55,6 +55,17 @@ constexpr bool is_default_code_page(unsigned code_page) {
   return code_page == 0 || code_page == 0xFFFFFFFF;
 }
 
+// Whether decoding leaves `text` as it is. No early exit: the compiler looks at
+// several code units at once, which a URL with a user feels.
+inline bool is_decoded(std::wstring_view text, unsigned code_page) {
+  unsigned special = 0;
+  for (const wchar_t unit : text) {
+    special |= static_cast<unsigned>(unit == L'%') |
+               static_cast<unsigned>(unit == L'\0');
+  }
+  return text.empty() || (special == 0 && is_default_code_page(code_page));
+}
+
 // Chooses the code page to read bytes in from the one that was asked for.
 using ChooseCodePage = unsigned (*)(const std::string& bytes,
                                     unsigned code_page);

@@ -57,7 +57,8 @@ long parse(std::wstring_view url, unsigned code_page, url_info_u& info) {
   auto [fault, parts] = split_url(url);
   if (fault != UrlFault::kNone) return URL_E_PARSE;
   if (parts.type == SCHEMA_UNKNOWN) return URL_E_UNSUPPORTED;
-  if (parts.user.empty() && parts.password.empty()) {
+  if (is_decoded(parts.user, code_page) &&
+      is_decoded(parts.password, code_page)) {
     return write_record(parts, code_page, info);
   }
   ScratchText user;
