@@ -37,7 +37,7 @@ static Bytes encode_base64(const Bytes& bytes) {
   return text;
 }
 
-void check(Bytes input) {
+void check(Bytes& input) {
   Bytes out;
   const ExactCopy<char> copy(input);
   const Bytes base16 = encode_base16(copy.data(), copy.size());

@@ -29,7 +29,7 @@ Text widen(std::string_view bytes) {
   return text;
 }
 
-static void run(const Bytes& input) {
+static void run(Bytes input) {
   current_input = input;
   check(input);
 }
@@ -56,13 +56,11 @@ static const Bytes kTelling =
 static void run_around(const Bytes& text) {
   run(text);
   for (std::size_t at = 0; at < text.size(); at += 1 + text.size() / kPlaces) {
-    const Bytes head = text.substr(0, at);
-    const Bytes tail = text.substr(at + 1);
-    run(head);
-    run(head + tail);
+    run(text.substr(0, at));
+    run(Bytes(text).erase(at, 1));
     for (const char byte : kTelling) {
-      run(head + byte + tail);
-      run(head + byte + text.substr(at));
+      run(Bytes(text).replace(at, 1, 1, byte));
+      run(Bytes(text).insert(at, 1, byte));
     }
   }
   Bytes repeated = text;

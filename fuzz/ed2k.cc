@@ -35,7 +35,7 @@ static void check_printed(ed2k_file_link link) {
   require(twice == printed, "all that is printed reads back");
 }
 
-void check(Bytes input) {
+void check(Bytes& input) {
   const Text text = widen(input);
   ed2k_file_link link(L"-", 0, {});
   const bool is_link = link.create_from_ed2k_url(text);

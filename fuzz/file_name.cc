@@ -22,7 +22,7 @@ static void check_c_function(const Text& text, unsigned code_page) {
   require(name() == 0 && Text(out.get(), size) == want, "the C function");
 }
 
-void check(Bytes input) {
+void check(Bytes& input) {
   const unsigned code_page =
       choose(input, {0U, 65001U, 936U, 1252U, ~0U, 950U, 1U});
   const Text text = widen(input);

@@ -15,8 +15,9 @@ using namespace std::string_literals;
 using Bytes = std::string;
 using Text = std::wstring;
 
-// Checks the properties of one format; each target defines it.
-void check(Bytes input);
+// Checks the properties of one format, and may change the input; each target
+// defines it.
+void check(Bytes& input);
 
 inline Bytes current_input;
 

@@ -21,7 +21,7 @@ static Text link_to(const bt_magnet_url_parser& link) {
   return url;
 }
 
-void check(Bytes input) {
+void check(Bytes& input) {
   const Text text = widen(input);
   bt_magnet_url_parser link(text);
   const bool is_link = link.parse_magnet_url();

@@ -23,7 +23,7 @@ static void check_bytes(const Bytes& bytes) {
   }
 }
 
-void check(Bytes input) {
+void check(Bytes& input) {
   const int code_page = choose(input, {0, 65001, 936, 1252, -1, 950});
   check_bytes(input);
   const Text text = widen(input);

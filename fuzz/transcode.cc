@@ -34,7 +34,7 @@ static void check_utf8(const Bytes& bytes, const Text& text) {
   require(is_utf8 ? utf8 == bytes : begins(bytes, utf8), "decoded and encoded");
 }
 
-void check(Bytes input) {
+void check(Bytes& input) {
   choose(input, {0, 1});
   const Text text = widen(input);
   check_utf8(input, text);

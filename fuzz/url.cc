@@ -24,7 +24,7 @@ static void check_record(const url_info_u& info, const Text& want) {
           "a URL does not fit in less");
 }
 
-void check(Bytes input) {
+void check(Bytes& input) {
   const unsigned code_page = choose(input, {0U, 65001U, 936U, 1252U, ~0U});
   const Text text = widen(input);
   url_object url;

@@ -20,7 +20,7 @@ using namespace std::string_view_literals;
 
 constexpr std::wstring_view kPrefix = L"magnet:?";
 constexpr std::wstring_view kHashPrefix = L"urn:btih:";
-constexpr std::size_t kBase16Digits = 2 * MAGNET_HASH_SIZE;
+constexpr std::size_t kBase16Digits = 2UL * MAGNET_HASH_SIZE;
 constexpr std::size_t kBase32Groups = MAGNET_HASH_SIZE / kBase32GroupBytes;
 constexpr std::size_t kBase32Digits = kBase32Groups * kBase32GroupDigits;
 
