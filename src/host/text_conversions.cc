@@ -39,7 +39,7 @@ const char* iconv_name(int code_page) {
   return nullptr;
 }
 
-// No set here gives more characters than it has bytes.
+// No character set here has more characters than bytes.
 bool convert_bytes(const char* from, std::string_view bytes,
                    std::wstring& wide) {
   return convert("WCHAR_T", from, bytes.data(), bytes.size(), bytes.size() + 1,

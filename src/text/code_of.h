@@ -1,5 +1,5 @@
-// Units of text as numbers that are never negative, whatever the platform's
-// char and wchar_t are.
+// Code units as unsigned numbers: char and wchar_t are signed on some
+// platforms.
 #ifndef KORVANE_TEXT_CODE_OF_H_
 #define KORVANE_TEXT_CODE_OF_H_
 

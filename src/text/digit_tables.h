@@ -1,5 +1,5 @@
-// Tables for texts of digits that carry 4, 5 or 6 bits each: pairs of digits
-// to write two at a time, and values to read with one look-up a digit.
+// Tables for base16, base32 and base64: pairs of digits, to write two at a
+// time, and the values of digits.
 #ifndef KORVANE_TEXT_DIGIT_TABLES_H_
 #define KORVANE_TEXT_DIGIT_TABLES_H_
 
@@ -12,7 +12,7 @@
 
 namespace qk::text {
 
-// Every pair of the first `radix` characters of `alphabet`, in order of value.
+// All pairs of the first `radix` characters of an alphabet, by value.
 template <std::size_t radix>
 using DigitPairs = std::array<std::array<char, 2>, radix * radix>;
 
@@ -25,7 +25,7 @@ constexpr DigitPairs<radix> make_digit_pairs(std::string_view alphabet) {
   return pairs;
 }
 
-// The value of every byte; kNoDigit, a bit of its own, for those that are none.
+// The values of all bytes as digits; kNoDigit, a bit of its own, if invalid.
 using DigitValues = std::array<unsigned char, 256>;
 constexpr unsigned char kNoDigit = 0x80;
 

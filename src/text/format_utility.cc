@@ -1,10 +1,11 @@
 #include <korvane/format_utility.h>
 
+#include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <cwchar>
 
 #include <korvane/string_utility.h>
@@ -12,29 +13,41 @@
 namespace qk::text {
 namespace {
 
+// A short ASCII text for the narrow or the wide functions of the C library.
+template <typename Unit>
+class Ascii {
+ public:
+  explicit Ascii(const char* text) {
+    std::copy_n(text, std::strlen(text), units_.begin());
+  }
+  operator const Unit*() const { return units_.data(); }
+
+ private:
+  std::array<Unit, 16> units_{};
+};
+
+int print_to(char* out, std::size_t size, const char* format, double value) {
+  return std::snprintf(out, size, format, value);
+}
+int print_to(wchar_t* out, std::size_t size, const wchar_t* format,
+             double value) {
+  return std::swprintf(out, size, format, value);
+}
+
+// Text that does not fit is cut; swprintf then returns an error, but has
+// written what fits and a terminator.
+template <typename Unit>
+std::basic_string<Unit> print(const char* format, double value) {
+  std::array<Unit, 128> text{};
+  static_cast<void>(
+      print_to(text.data(), text.size(), Ascii<Unit>(format), value));
+  return text.data();
+}
+
 template <typename Unit, typename Number>
 std::basic_string<Unit> print_integer(Number value) {
-  std::array<char, 32> digits;
-  const char* const end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-  return {static_cast<const char*>(digits.data()),
-          static_cast<const char*>(end)};
-}
-
-// A text that does not fit is cut; the wide print then answers an error, but
-// has written what fits and its terminator like the narrow one.
-template <std::size_t kRoom>
-std::string print(const char* format, double value) {
-  std::array<char, kRoom> text{};
-  static_cast<void>(std::snprintf(text.data(), kRoom, format, value));
-  return text.data();
-}
-
-template <std::size_t kRoom>
-std::wstring print(const wchar_t* format, double value) {
-  std::array<wchar_t, kRoom> text{};
-  static_cast<void>(std::swprintf(text.data(), kRoom, format, value));
-  return text.data();
+  const std::string digits = std::to_string(value);
+  return {digits.begin(), digits.end()};
 }
 
 template <typename Number>
@@ -44,61 +57,32 @@ Number scan(const char* text, const char* format) {
 }
 
 template <typename Number>
-Number scan(const wchar_t* text, const wchar_t* format) {
+Number scan(const wchar_t* text, const char* format) {
   Number value = 0;
-  return std::swscanf(text, format, &value) == 1 ? value : 0;
+  const Ascii<wchar_t> wide_format(format);
+  return std::swscanf(text, wide_format, &value) == 1 ? value : 0;
 }
 
-// What differs between the narrow and the wide members.
-template <typename Unit>
-struct Formats;
+std::int32_t read_signed32(const char* text) {
+  return static_cast<std::int32_t>(std::strtol(text, nullptr, 10));
+}
+std::int32_t read_signed32(const wchar_t* text) {
+  return scan<std::int32_t>(text, "%i");
+}
+std::int64_t read_signed64(const char* text) {
+  return std::strtoll(text, nullptr, 10);
+}
+std::int64_t read_signed64(const wchar_t* text) {
+  return static_cast<std::int64_t>(scan<unsigned long long>(text, "%llu"));
+}
 
-template <>
-struct Formats<char> {
-  static constexpr char kFloat[] = "%f";
-  static constexpr char kDouble[] = "%lf";
-  static constexpr char kUint32[] = "%u";
-  static constexpr char kUint64[] = "%llu";
-  static constexpr char kTrue[] = "true";
-  static constexpr char kOne[] = "1";
-  static constexpr char kTera[] = "%0.2lfTB";
-  static constexpr char kGiga[] = "%0.2lfGB";
-  static constexpr char kMega[] = "%0.2lfMB";
-  static constexpr char kKilo[] = "%0.2lfKB";
-  static constexpr char kBytes[] = "%.0lfB";
-
-  static long sint32(const char* text) {
-    return std::strtol(text, nullptr, 10);
-  }
-  static long long sint64(const char* text) {
-    return std::strtoll(text, nullptr, 10);
-  }
-};
-
-template <>
-struct Formats<wchar_t> {
-  static constexpr wchar_t kFloat[] = L"%f";
-  static constexpr wchar_t kDouble[] = L"%lf";
-  static constexpr wchar_t kUint32[] = L"%u";
-  static constexpr wchar_t kUint64[] = L"%llu";
-  static constexpr wchar_t kTrue[] = L"true";
-  static constexpr wchar_t kOne[] = L"1";
-  static constexpr wchar_t kTera[] = L"%0.2lfTB";
-  static constexpr wchar_t kGiga[] = L"%0.2lfGB";
-  static constexpr wchar_t kMega[] = L"%0.2lfMB";
-  static constexpr wchar_t kKilo[] = L"%0.2lfKB";
-  static constexpr wchar_t kBytes[] = L"%.0lfB";
-
-  static int sint32(const wchar_t* text) { return scan<int>(text, L"%i"); }
-  static unsigned long long sint64(const wchar_t* text) {
-    return scan<unsigned long long>(text, kUint64);
-  }
-};
-
-constexpr double kKilo = 1024;
-constexpr double kMega = kKilo * kKilo;
-constexpr double kGiga = kKilo * kMega;
-constexpr double kTera = kKilo * kGiga;
+constexpr struct {
+  double size;
+  const char* format;
+} kByteUnits[] = {{0x1p40, "%0.2lfTB"},
+                  {0x1p30, "%0.2lfGB"},
+                  {0x1p20, "%0.2lfMB"},
+                  {0x1p10, "%0.2lfKB"}};
 
 }  // namespace
 
@@ -124,60 +108,57 @@ auto format_utility_t<Unit>::to_string(long value) -> String {
 
 template <typename Unit>
 auto format_utility_t<Unit>::to_string(float value) -> String {
-  return print<64>(Formats<Unit>::kFloat, static_cast<double>(value));
+  return print<Unit>("%f", static_cast<double>(value));
 }
 
 template <typename Unit>
 auto format_utility_t<Unit>::to_string(double value) -> String {
-  return print<128>(Formats<Unit>::kDouble, value);
+  return print<Unit>("%lf", value);
 }
 
 template <typename Unit>
 std::uint32_t format_utility_t<Unit>::str_to_uint32(const Unit* text) {
-  return scan<unsigned>(text, Formats<Unit>::kUint32);
+  return scan<unsigned>(text, "%u");
 }
 
 template <typename Unit>
 std::int32_t format_utility_t<Unit>::str_to_sint32(const Unit* text) {
-  return static_cast<std::int32_t>(Formats<Unit>::sint32(text));
+  return read_signed32(text);
 }
 
 template <typename Unit>
 std::uint64_t format_utility_t<Unit>::str_to_uint64(const Unit* text) {
-  return scan<unsigned long long>(text, Formats<Unit>::kUint64);
+  return scan<unsigned long long>(text, "%llu");
 }
 
 template <typename Unit>
 std::int64_t format_utility_t<Unit>::str_to_sint64(const Unit* text) {
-  return static_cast<std::int64_t>(Formats<Unit>::sint64(text));
+  return read_signed64(text);
 }
 
 template <typename Unit>
 float format_utility_t<Unit>::str_to_float32(const Unit* text) {
-  return scan<float>(text, Formats<Unit>::kFloat);
+  return scan<float>(text, "%f");
 }
 
 template <typename Unit>
 double format_utility_t<Unit>::str_to_float64(const Unit* text) {
-  return scan<double>(text, Formats<Unit>::kDouble);
+  return scan<double>(text, "%lf");
 }
 
 template <typename Unit>
 bool format_utility_t<Unit>::str_to_bool(const Unit* text) {
   using Compare = string_utility_t<Unit>;
-  return Compare::compare_nocase(text, Formats<Unit>::kTrue) == 0 ||
-         Compare::compare_nocase(text, Formats<Unit>::kOne) == 0;
+  return Compare::compare_nocase(text, Ascii<Unit>("true")) == 0 ||
+         Compare::compare_nocase(text, Ascii<Unit>("1")) == 0;
 }
 
 template <typename Unit>
 auto format_utility_t<Unit>::kilo_format(double bytes) -> String {
-  using Texts = Formats<Unit>;
-  if (bytes > kTera) return print<128>(Texts::kTera, bytes / kTera);
-  if (bytes > kGiga) return print<128>(Texts::kGiga, bytes / kGiga);
-  if (bytes > kMega) return print<128>(Texts::kMega, bytes / kMega);
-  if (bytes > kKilo) return print<128>(Texts::kKilo, bytes / kKilo);
-  if (bytes >= 0) return print<128>(Texts::kBytes, bytes);
-  return {};
+  for (const auto& [size, format] : kByteUnits) {
+    if (bytes > size) return print<Unit>(format, bytes / size);
+  }
+  return bytes >= 0 ? print<Unit>("%.0lfB", bytes) : String();
 }
 
 template class format_utility_t<char>;

@@ -1,4 +1,4 @@
-// Hexadecimal digits, for every coder and decoder.
+// Hexadecimal digits.
 #ifndef KORVANE_TEXT_HEX_DIGITS_H_
 #define KORVANE_TEXT_HEX_DIGITS_H_
 
@@ -9,15 +9,14 @@ namespace qk::text {
 constexpr char kUpperHexDigits[] = "0123456789ABCDEF";
 constexpr char kLowerHexDigits[] = "0123456789abcdef";
 
-// Either case.
+// Case-insensitive.
 inline constexpr DigitValues kHexValues = [] {
   DigitValues values = make_digit_values(kUpperHexDigits);
   set_values(values, kLowerHexDigits, 0);
   return values;
 }();
 
-// The value of a hexadecimal digit; kNoDigit for any other unit, those of 256
-// and above included.
+// The value of a hexadecimal digit; kNoDigit for any other code unit.
 constexpr unsigned hex_value(char unit) { return value_of(kHexValues, unit); }
 constexpr unsigned hex_value(wchar_t unit) {
   return value_of(kHexValues, unit);

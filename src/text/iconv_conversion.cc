@@ -5,10 +5,10 @@
 #include <array>
 #include <string_view>
 
+#include "text/ascii.h"
+
 namespace qk::text {
 namespace {
-
-constexpr auto kFailed = static_cast<std::size_t>(-1);
 
 class Converter {
  public:
@@ -20,52 +20,55 @@ class Converter {
   Converter(const Converter&) = delete;
   Converter& operator=(const Converter&) = delete;
 
-  struct Result {
-    bool is_whole;     // whether it took the whole input
-    std::size_t size;  // how many bytes it wrote
-  };
-
-  // Converts in one call.
-  Result run(const char* input, std::size_t input_size, char* output,
-             std::size_t output_size, Ending ending) const {
-    if (!is_open()) return {false, 0};
-    // iconv does not write to its input; its parameter type predates const.
-    char* source = const_cast<char*>(input);
-    std::size_t left = output_size;
-    const bool is_whole =
-        iconv(descriptor_, &source, &input_size, &output, &left) != kFailed;
-    if (ending == Ending::kFlushed) {
-      iconv(descriptor_, nullptr, nullptr, &output, &left);
-    }
-    return {is_whole, output_size - left};
-  }
-
- private:
   bool is_open() const {
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the way iconv_open fails
     return descriptor_ != reinterpret_cast<iconv_t>(-1);
   }
+  iconv_t get() const { return descriptor_; }
 
+ private:
   iconv_t descriptor_;
 };
+
+// Converts all of `input` in one call; returns whether that succeeded. `size`
+// is the capacity of `output`, and becomes the number of bytes written.
+bool convert_bytes(const Converter& converter, std::string_view input,
+                   char* output, std::size_t& size, Ending ending) {
+  // iconv does not write to its input; its parameter type predates const.
+  char* source = const_cast<char*>(input.data());
+  std::size_t source_size = input.size();
+  std::size_t left = size;
+  const bool is_whole = iconv(converter.get(), &source, &source_size, &output,
+                              &left) != static_cast<std::size_t>(-1);
+  if (ending == Ending::kFlushed) {
+    iconv(converter.get(), nullptr, nullptr, &output, &left);
+  }
+  size -= left;
+  return is_whole;
+}
 
 }  // namespace
 
 template <typename In, typename Out>
 bool convert(const char* to, const char* from, const In* input,
-             std::size_t length, std::size_t room,
+             std::size_t length, std::size_t capacity,
              std::basic_string<Out>& output, Ending ending) {
-  // Short texts need no memory but the output's own. The input may lie in that.
+  const Converter converter(to, from);
+  if (!converter.is_open()) {
+    output.clear();
+    return false;
+  }
+  // Short text needs no memory but the output's own, which the input may be in.
   constexpr std::size_t kShort = 2048;
   std::array<Out, kShort> few;
-  std::basic_string<Out> many(room > kShort ? room : 0, Out());
-  Out* const buffer = room > kShort ? many.data() : few.data();
-  const auto [is_whole, size] = Converter(to, from).run(
-      reinterpret_cast<const char*>(input), length * sizeof(In),
-      reinterpret_cast<char*>(buffer), room * sizeof(Out), ending);
-  // The result is a text up to its first zero.
-  const std::basic_string_view<Out> text(buffer, size / sizeof(Out));
-  output.assign(text.substr(0, text.find(Out())));
+  std::basic_string<Out> many(capacity > kShort ? capacity : 0, Out());
+  Out* const buffer = capacity > kShort ? many.data() : few.data();
+  std::size_t size = capacity * sizeof(Out);
+  const bool is_whole = convert_bytes(
+      converter, {reinterpret_cast<const char*>(input), length * sizeof(In)},
+      reinterpret_cast<char*>(buffer), size, ending);
+  output.assign(
+      until_zero(std::basic_string_view<Out>(buffer, size / sizeof(Out))));
   return is_whole;
 }
 

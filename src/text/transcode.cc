@@ -12,7 +12,7 @@ constexpr char kUtf8[] = "UTF-8";
 constexpr char kGbk[] = "GBK";
 constexpr char kAnsi[] = "MS-ANSI";
 
-// The room for `length` units of input is `units_each` for every one of them
+// The capacity for the output is `units_each` code units for each of the input,
 // and `spare` more.
 template <typename In, typename Out>
 void convert_all(const char* to, const char* from, const In* text,

@@ -1,4 +1,4 @@
-// UTF-8 coding without a converter, for text of any length.
+// UTF-8 without a converter.
 #ifndef KORVANE_TEXT_UTF8_H_
 #define KORVANE_TEXT_UTF8_H_
 
@@ -7,14 +7,12 @@
 
 namespace qk::text {
 
-// Replaces `wide` with the characters of `utf8`. Returns whether all of it is
-// valid UTF-8 (shortest forms, no surrogates, at most U+10FFFF); otherwise
-// `wide` holds the characters before the first bad byte.
+// Replaces `wide` with the characters of `utf8` before the first invalid byte;
+// returns whether all are valid: shortest forms, no surrogates, up to U+10FFFF.
 bool decode_utf8(std::string_view utf8, std::wstring& wide);
 
-// Replaces `utf8` with the UTF-8 form of `wide`. Returns whether every unit is
-// a character (no surrogate, at most U+10FFFF); otherwise `utf8` holds the
-// characters before the first that is not.
+// Replaces `utf8` with the characters of `wide` before the first code unit that
+// is not a character; returns whether all are characters.
 bool encode_utf8(std::wstring_view wide, std::string& utf8);
 
 }  // namespace qk::text

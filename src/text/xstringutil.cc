@@ -1,6 +1,5 @@
 #include <korvane/xstringutil.h>
 
-#include <array>
 #include <cstddef>
 #include <string_view>
 #include <utility>
@@ -17,9 +16,8 @@ using qk::text::kUpperHexDigits;
 constexpr char kBlanks[] = " \t";
 constexpr char kForbiddenInFileNames[] = "\\/:*?\"<>|";
 constexpr std::size_t kLongestFileName = 215;
-constexpr std::string_view kAlphanumeric =
+constexpr std::string_view kLettersAndDigits =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
-constexpr std::string_view kPathPunctuation = "/-_.!~*()";
 
 std::string_view bytes_of(const char* data, int len) {
   if (data == nullptr || len <= 0) return {};
@@ -28,33 +26,18 @@ std::string_view bytes_of(const char* data, int len) {
 
 unsigned octet(char byte) { return static_cast<unsigned char>(byte); }
 
-using ByteSet = std::array<bool, 256>;
-
-constexpr void add(ByteSet& set, std::string_view bytes) {
-  for (const char byte : bytes) set[static_cast<unsigned char>(byte)] = true;
-}
-
-constexpr ByteSet make_set(std::string_view some, std::string_view more) {
-  ByteSet set{};
-  add(set, some);
-  add(set, more);
-  return set;
-}
-
-constexpr ByteSet kKeptInStrings = make_set(kAlphanumeric, "");
-constexpr ByteSet kKeptInPaths = make_set(kAlphanumeric, kPathPunctuation);
-
 void append_digits(std::string& text, char byte, const char* digits) {
   text += digits[octet(byte) >> 4];
   text += digits[octet(byte) & 15];
 }
 
-std::string escape(std::string_view bytes, const ByteSet& kept,
+// Percent-encodes all but letters, digits and the bytes of `unescaped`.
+std::string escape(std::string_view bytes, std::string_view unescaped,
                    const char* digits) {
   std::string text;
-  text.reserve(bytes.size());
   for (const char byte : bytes) {
-    if (kept[octet(byte)]) {
+    if (kLettersAndDigits.find(byte) != std::string_view::npos ||
+        unescaped.find(byte) != std::string_view::npos) {
       text += byte;
     } else {
       text += '%';
@@ -174,11 +157,11 @@ std::string DataToHexString(const char* data, int len,
 }
 
 std::string EscapeString(const char* data, int len) {
-  return escape(bytes_of(data, len), kKeptInStrings, kUpperHexDigits);
+  return escape(bytes_of(data, len), "", kUpperHexDigits);
 }
 
 std::string EscapePath(const char* data, int len) {
-  return escape(bytes_of(data, len), kKeptInPaths, kLowerHexDigits);
+  return escape(bytes_of(data, len), "/-_.!~*()", kLowerHexDigits);
 }
 
 std::string UnescapeString(const std::string& s) {

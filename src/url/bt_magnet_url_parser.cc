@@ -149,7 +149,7 @@ void bt_magnet_url_parser::divide_string(const std::wstring& text,
 long parse_magnet_url_u(const wchar_t* url, size_t length,
                         unsigned char* info_hash) {
   if (url == nullptr || length > kLongestText) return URL_E_UNSUPPORTED;
-  return answer(URL_E_UNSUPPORTED, [&]() -> long {
+  return without_exceptions(URL_E_UNSUPPORTED, [&]() -> long {
     std::wstring_view rest = parameters_of({url, length});
     InfoHash hash;
     while (!rest.empty()) {

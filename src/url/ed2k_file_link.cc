@@ -1,7 +1,6 @@
 #include <korvane/ed2k_file_link.h>
 
 #include <cstddef>
-#include <string_view>
 #include <utility>
 
 #include <korvane/encoders.h>
@@ -13,15 +12,10 @@ namespace {
 template <typename Char>
 using String = std::basic_string<Char>;
 
-template <typename Char>
-void append_ascii(String<Char>& text, std::string_view ascii) {
-  text.append(ascii.begin(), ascii.end());
-}
-
-void append_wide(std::string& text, const std::wstring& wide) {
+void append(std::string& text, const std::wstring& wide) {
   text += wstring_2_utf8(wide);
 }
-void append_wide(std::wstring& text, const std::wstring& wide) { text += wide; }
+void append(std::wstring& text, const std::wstring& wide) { text += wide; }
 
 void append_host(std::string& text, const std::string& host) { text += host; }
 void append_host(std::wstring& text, const std::string& host) {
@@ -32,59 +26,51 @@ std::string digits_of(const ed2k_file_link::file_hash& hash) {
   return encode_base16(hash.octets.data(), hash.octets.size());
 }
 
-template <typename Char>
-void append_part_hashes(String<Char>& text, const ed2k_file_link& link) {
-  append_ascii(text, "p=");
-  const char* separator = "";
+std::string part_digits_of(const ed2k_file_link& link) {
+  std::string text;
   for (const ed2k_file_link::file_hash& hash : link.get_part_hash()) {
-    append_ascii(text, std::exchange(separator, ":"));
-    append_ascii(text, digits_of(hash));
+    if (!text.empty()) text += ':';
+    text += digits_of(hash);
   }
-  append_ascii(text, "|");
-}
-
-template <typename Char>
-void append_sources(String<Char>& text, const ed2k_file_link& link) {
-  append_ascii(text, "/|sources");
-  for (const ed2k_file_link::source& source : link.get_source_list()) {
-    append_ascii(text, ",");
-    append_host(text, source.host);
-    append_ascii(text, ":");
-    append_ascii(text, std::to_string(source.port));
-  }
-  append_ascii(text, "|");
+  return text;
 }
 
 template <typename Char>
 void print(const ed2k_file_link& link, unsigned long flags,
            String<Char>& text) {
+  const auto append_ascii = [&text](const std::string& ascii) {
+    text.append(ascii.begin(), ascii.end());
+  };
+  const auto& root = link.get_root_hash().octets;
   text.clear();
-  append_ascii(text, "ed2k://|file|");
-  append_wide(text, link.get_file_name());
-  append_ascii(text, "|");
-  append_ascii(text, std::to_string(link.get_file_size()));
-  append_ascii(text, "|");
-  append_ascii(text, digits_of(link.get_file_hash()));
-  append_ascii(text, "|");
+  append_ascii("ed2k://|file|");
+  append(text, link.get_file_name());
+  append_ascii("|" + std::to_string(link.get_file_size()) + "|" +
+               digits_of(link.get_file_hash()) + "|");
   if ((flags & ed2k_file_link::kPrintRootHash) != 0) {
-    const auto& octets = link.get_root_hash().octets;
-    append_ascii(text, "h=");
-    append_ascii(text, encode_base32(octets.data(), octets.size()));
-    append_ascii(text, "|");
+    append_ascii("h=" + encode_base32(root.data(), root.size()) + "|");
   }
   if ((flags & ed2k_file_link::kPrintPartHashes) != 0) {
-    append_part_hashes(text, link);
+    append_ascii("p=" + part_digits_of(link) + "|");
   }
   if ((flags & ed2k_file_link::kPrintHttpUrl) != 0) {
-    append_ascii(text, "s=");
-    append_wide(text, link.get_http_url());
-    append_ascii(text, "|");
+    append_ascii("s=");
+    append(text, link.get_http_url());
+    append_ascii("|");
   }
-  if ((flags & ed2k_file_link::kPrintSources) != 0) append_sources(text, link);
-  append_ascii(text, "/");
+  if ((flags & ed2k_file_link::kPrintSources) != 0) {
+    append_ascii("/|sources");
+    for (const ed2k_file_link::source& source : link.get_source_list()) {
+      append_ascii(",");
+      append_host(text, source.host);
+      append_ascii(":" + std::to_string(source.port));
+    }
+    append_ascii("|");
+  }
+  append_ascii("/");
 }
 
-// Built in a new text, so that many replacements cost no more than the text.
+// Builds a new text: many replacements in place would take quadratic time.
 template <typename Char>
 void replace_all(String<Char>& text, const String<Char>& from,
                  const String<Char>& to) {
@@ -94,7 +80,7 @@ void replace_all(String<Char>& text, const String<Char>& from,
   while (found != String<Char>::npos) {
     result.append(text, copied, found - copied).append(to);
     copied = found + from.size();
-    if (found == text.size()) break;  // an empty `from` stands at the end too
+    if (found == text.size()) break;  // an empty `from`
     found = text.find(from, from.empty() ? found + 1 : copied);
   }
   result.append(text, copied);
@@ -143,11 +129,7 @@ std::string utf8_2_hexstr(const std::string& utf8) {
   text.reserve(utf8.size());
   for (const char unit : utf8) {
     const auto byte = static_cast<unsigned char>(unit);
-    if (byte < 0x80) {
-      text += unit;
-    } else {
-      text += '%' + char2hex(byte);
-    }
+    text += byte < 0x80 ? std::string(1, unit) : '%' + char2hex(byte);
   }
   return text;
 }

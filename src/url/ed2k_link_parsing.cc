@@ -269,7 +269,7 @@ long parse_ed2k_url_u(const wchar_t* url, size_t length,
   if (url == nullptr || info == nullptr) return URL_E_INVALID_ARG;
   if (length > kLongestText) return URL_E_UNSUPPORTED;
   const std::wstring_view link(url, length);
-  return answer(URL_E_UNSUPPORTED, [&]() -> long {
+  return without_exceptions(URL_E_UNSUPPORTED, [&]() -> long {
     ScratchText scratch;
     Fields fields;
     if (!read_link(link, fields, scratch)) return URL_E_UNSUPPORTED;

@@ -1,4 +1,4 @@
-// What the C functions have in common.
+// What the C functions share.
 #ifndef KORVANE_URL_ENTRY_POINT_H_
 #define KORVANE_URL_ENTRY_POINT_H_
 
@@ -7,13 +7,13 @@
 
 namespace qk::url {
 
-// Longer text is not read.
+// Longer text is an error.
 constexpr std::size_t kLongestText = std::numeric_limits<unsigned>::max();
 
-// The answer of `body`, or `failure` if it throws: nothing but want of memory
-// does, and no exception may reach a C caller.
+// The result of `body`, or `failure` if that runs out of memory: no exception
+// may reach a C caller.
 template <typename Body>
-long answer(long failure, Body body) noexcept {
+long without_exceptions(long failure, Body body) noexcept {
   try {
     return body();
   } catch (...) {

@@ -92,7 +92,7 @@ long parse_url_u(const wchar_t* url, size_t url_len, unsigned code_page,
                  url_info_u* info) {
   if (url == nullptr || info == nullptr) return URL_E_INVALID_ARG;
   if (url_len > kLongestText) return URL_E_BUFFER;
-  return answer(URL_E_BUFFER, [&] {
+  return without_exceptions(URL_E_BUFFER, [&] {
     return parse({url, url_len}, code_page, *info);
   });
 }
@@ -101,7 +101,7 @@ long url_info_to_str_u(wchar_t* out, size_t* out_len, const url_info_u* info) {
   if (out == nullptr || out_len == nullptr || info == nullptr) {
     return URL_E_INVALID_ARG;
   }
-  return answer(URL_E_BUFFER, [&]() -> long {
+  return without_exceptions(URL_E_BUFFER, [&]() -> long {
     const UrlParts parts = parts_of(*info);
     if (!is_readable(parts)) return URL_E_BUFFER;
     // Printed aside: `out` may lie within the record.
@@ -118,7 +118,7 @@ long parse_filename_u(wchar_t* out, size_t* out_len, const wchar_t* url,
     return URL_E_INVALID_ARG;
   }
   if (url_len > kLongestText) return URL_E_BUFFER;
-  return answer(URL_E_BUFFER, [&]() -> long {
+  return without_exceptions(URL_E_BUFFER, [&]() -> long {
     const std::wstring_view text(url, url_len);
     ClassifiedText segment = last_segment(text.substr(0, text.find(L'?')));
     ScratchText scratch;
