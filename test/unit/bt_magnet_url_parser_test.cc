@@ -4,8 +4,6 @@
 #include <korvane/korvane_host.h>
 #include "table.h"
 
-namespace {
-
 const Text kHash = L"0123456789ABCDEF0123456789ABCDEF01234567";
 const Text kBase32 = L"AERUKZ4JVPG66AJDIVTYTK6N54ASGRLH";
 const Text kTopic = L"xt=urn:btih:";
@@ -75,5 +73,3 @@ TEST(bt_magnet_url_parser, DivideStringHasNoEmptyLastItem) {
   bt_magnet_url_parser::divide_string(L"", L'&', items);
   EXPECT_TRUE(items.empty());
 }
-
-}  // namespace

@@ -5,8 +5,6 @@
 #include <korvane/korvane_links.h>
 #include "table.h"
 
-namespace {
-
 TEST(encoders, DecodersKeepWhatTheyWroteBeforeABadDigit) {
   using Decode = bool (*)(const char*, unsigned long, Bytes&);
   const Table row = [](Decode decode, const Bytes& text, bool is_good,
@@ -30,21 +28,11 @@ TEST(encoders, DecodersKeepWhatTheyWroteBeforeABadDigit) {
   }
 }
 
-TEST(encoders, EncodersAreUndoneByTheDecoders) {
+TEST(encoders, EncodeWholeDigits) {
   EXPECT_EQ(encode_base16("\x01\xAF", 2), "01AF");
+  EXPECT_EQ(encode_base32("foobarfoob", 10), "MZXW6YTBOJTG633C");
   EXPECT_EQ(encode_base32("foob", 4), "MZXW6YQ");
   EXPECT_EQ(DefaultBase32Map, "ABCDEFGHIJKLMNOPQRSTUVWXYZ234567");
-  Bytes bytes;
-  for (int i = 0; i < 300; bytes += static_cast<char>(37 * i++)) {
-    const ExactCopy copy(bytes);
-    Bytes out;
-    const Bytes base16 = encode_base16(copy.data(), copy.size());
-    decode_base16(base16.data(), base16.size(), out);
-    EXPECT_EQ(out, bytes);
-    const Bytes base32 = encode_base32(copy.data(), copy.size());
-    decode_base32(base32.data(), base32.size(), out);
-    EXPECT_EQ(out, bytes);
-  }
 }
 
 TEST(encoders, EncodeUrlWritesInvertedDigitsAndAZeroByte) {
@@ -59,7 +47,7 @@ TEST(encoders, EncodeUrlWritesInvertedDigitsAndAZeroByte) {
 // What a function returns, the length, and what is then in a buffer of exactly
 // that capacity.
 template <typename Out, typename In>
-auto expect_coded(int (*code)(Out*, unsigned*, const In*, unsigned)) {
+static auto expect_coded(int (*code)(Out*, unsigned*, const In*, unsigned)) {
   return [code](const Bytes& source, unsigned capacity, int result,
                 unsigned want_length, const Bytes& want) {
     std::vector<Out> out(capacity, Out('#'));
@@ -125,5 +113,3 @@ TEST(base64_coding, EveryDigitThereAndBack) {
   expect_coded(base64_encode)(bytes, 65, 0, 64, digits + "\0"s);
   expect_coded(base64_decode)(digits, 48, 0, 48, bytes);
 }
-
-}  // namespace

@@ -23,10 +23,9 @@ std::wstring read_by_host(const std::string& bytes, int code_page) {
   return bytes == "\x1B$B" ? L"7-bit" : read_by_own_host(bytes, code_page);
 }
 
-namespace {
-
 template <typename Unit>
-void expect_classes(Unit unit, bool escaped, bool reserved, bool letter) {
+static void expect_classes(Unit unit, bool escaped, bool reserved,
+                           bool letter) {
   EXPECT_EQ(url_object::need_escape(unit), escaped) << unit;
   EXPECT_EQ(url_object::is_reserved(unit), reserved) << unit;
   EXPECT_EQ(url_object::is_alpha(unit), letter) << unit;
@@ -76,14 +75,12 @@ TEST(percent_coding, EscapesAreBytesInACodePage) {
     EXPECT_EQ(url_object::decode_ex(text, code_page), want);
     EXPECT_EQ(url_object::file_name_for(text, code_page), want);
   };
-  row(L"caf%C3%A9", 65001, L"café");
   row(L"caf%C3%A9", ~0U, L"café");
   row(L"caf%E9%E9", 1251, L"cafйй");
   row(L"café%20x", 65001, L"café%20x");
   row(L"\x80\0%20"s, 0, L"\x80\0%20"s);
   row(L"\x80000041%20", 0, L"\x80000041%20");
   row(L"%41%00%E9", 1252, L"A");
-  row(L"%41\0%E9"s, 0, L"A");
   row(Text(300, L'a') + L"%41%", 0, Text(300, L'a') + L"A%");
 }
 
@@ -116,5 +113,3 @@ TEST(percent_coding, TrimPreSpaceRemovesSpacesAndTabs) {
   url_object::trim_pre_space(wide);
   EXPECT_EQ(wide, L"");
 }
-
-}  // namespace

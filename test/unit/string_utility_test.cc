@@ -4,8 +4,6 @@
 
 #include "table.h"
 
-namespace {
-
 using Narrow = qk::text::string_utility_t<char>;
 using Wide = qk::text::string_utility_t<wchar_t>;
 
@@ -42,5 +40,3 @@ TEST(string_utility, FindNocaseOfNullIsNull) {
   EXPECT_EQ(Wide::find_nocase(nullptr, L"a"), nullptr);
   EXPECT_EQ(Wide::find_nocase(L"a", nullptr), nullptr);
 }
-
-}  // namespace

@@ -4,8 +4,6 @@
 #include <korvane/transcode.h>
 #include "table.h"
 
-namespace {
-
 const Table decoded = [](const Bytes& bytes, int code_page, const Text& want) {
   EXPECT_EQ(string_to_wstring_with_code_page(bytes, code_page), want);
 };
@@ -86,5 +84,3 @@ TEST(last_error, EachThreadHasItsOwn) {
   EXPECT_EQ(seen, 0U);
   EXPECT_EQ(qk::get_last_error(), 20100001U);
 }
-
-}  // namespace

@@ -4,16 +4,14 @@
 #include "text/iconv_conversion.h"
 #include "text/utf8.h"
 
-namespace {
-
 using qk::text::transcode;
 
 // Calls a function on exactly the text, over a string that holds another.
 template <typename In, typename Out>
-void expect_converted(void (*convert)(const In*, unsigned,
-                                      std::basic_string<Out>&),
-                      const std::basic_string<In>& text,
-                      const std::basic_string<Out>& want) {
+static void expect_converted(void (*convert)(const In*, unsigned,
+                                             std::basic_string<Out>&),
+                             const std::basic_string<In>& text,
+                             const std::basic_string<Out>& want) {
   const ExactCopy copy(text);
   std::basic_string<Out> out(3, Out('!'));
   convert(copy.data(), copy.size(), out);
@@ -27,7 +25,6 @@ const Table wide = expect_converted<wchar_t, wchar_t>;
 const Bytes kSmile = "\xF0\x9F\x98\x80";
 
 TEST(transcode, ConvertsUpToWhatItCannot) {
-  narrow(transcode::GBK_to_UTF8, "", "");
   narrow(transcode::GBK_to_UTF8, "a\xD6\xD0\0a"s, "a\xE4\xB8\xAD");
   narrow(transcode::GBK_to_UTF8, "a\xFF\x62", "a");
   narrow(transcode::GBK_to_UTF8, "a\xD6", "a");
@@ -78,13 +75,12 @@ TEST(transcode, ReadsNoNullTextAndItsOutput) {
 TEST(utf8, HasTheCharactersUpTo10FFFF) {
   const Table row = [](const Text& text, const Bytes& want) {
     Bytes utf8 = "old";
-    Text decoded = L"old";
     EXPECT_TRUE(qk::text::encode_utf8(text, utf8));
     EXPECT_EQ(utf8, want);
+    Text decoded = L"old";
     EXPECT_TRUE(qk::text::decode_utf8(want, decoded));
     EXPECT_EQ(decoded, text);
   };
-  row(L"", "");
   row(L"\0\x7F\x80"s, "\0\x7F\xC2\x80"s);
   row(L"\x7FF\x800", "\xDF\xBF\xE0\xA0\x80");
   row(L"\xD7FF\xE000", "\xED\x9F\xBF\xEE\x80\x80");
@@ -112,5 +108,3 @@ TEST(iconv_conversion, AnUnknownCharacterSetConvertsNothing) {
   EXPECT_FALSE(qk::text::convert("UTF-8", "no such set", "a", 1, 9, out));
   EXPECT_EQ(out, "");
 }
-
-}  // namespace

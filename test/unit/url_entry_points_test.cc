@@ -189,10 +189,9 @@ TEST(url_entry_points, RefuseNullPointersAndAbsurdLengths) {
     EXPECT_EQ(is_support_schema("", size, &out.supported), -4);
     EXPECT_EQ(parse_ed2k(L"", size), -1);
     EXPECT_EQ(parse_magnet(L"", size), -1);
-    for (std::uint64_t url_info_u::*const field :
-         {&url_info_u::schema_len, &url_info_u::user_len,
-          &url_info_u::password_len, &url_info_u::host_len,
-          &url_info_u::path_len}) {
+    for (const auto field : {&url_info_u::schema_len, &url_info_u::user_len,
+                             &url_info_u::password_len, &url_info_u::host_len,
+                             &url_info_u::path_len}) {
       url_info_u info = {};
       info.port = 80;
       info.*field = size;

@@ -3,8 +3,6 @@
 #include <korvane/url_object.h>
 #include "table.h"
 
-namespace {
-
 TEST(url_file_name, IsTheCleanedLastSegment) {
   const Table row = [](const Text& text, const Text& want) {
     EXPECT_EQ(url_object::file_name_for(text, 0), want);
@@ -24,7 +22,6 @@ TEST(url_file_name, IsTheCleanedLastSegment) {
   row(L"h/f&g.zip", L"f&g.zip");
   // Separators after the first "?" count for an address alone.
   row(L"h/f.zip?x=/y/z?w", L"f.zip_x=_y_z_");
-  row(L"f?a/b?", L"f_a_b_");
   row(L"h/f?url=http://i/g.zip?w", L"g.zip_");
   row(L"h/f?URL=a/g?w", L"f_URL=a_g_");
   row(L"f?a/url=b?w", L"url=b_");
@@ -51,7 +48,6 @@ TEST(url_file_name, WordWithExtension) {
     EXPECT_EQ(qk::url::word_with_extension(text), want);
   };
   row(L"get setup.exe, now", L"setup.exe");
-  row(L"get setup.exe\tnow", L"setup.exe");
   row(L"x yéa-b$9Z.ZIP", L"a-b$9Z.ZIP");
   for (const Text none :
        {L"", L"zip", L"a.html", L"get setup.Exe", L"get a.exe;",
@@ -60,11 +56,11 @@ TEST(url_file_name, WordWithExtension) {
     row(none, L"");
   }
   // Quirk: the first character belongs to the word, whatever it is.
+  row(L"_yz.zip", L"_yz.zip");
   row(L" .msi b.avi", L" .msi");
   row(L"  .msi b.avi", L"b.avi");
   // In the order of the extensions, lower case first.
   row(L"A.EXE b.exe", L"b.exe");
-  row(L"a.zip b.wmv c.wmp d.msi", L"d.msi");
   for (const Text extension :
        {L"asf", L"avi", L"iso", L"mp3", L"mpeg", L"mpg", L"mpga", L"ra", L"rar",
         L"rm", L"rmvb", L"tar", L"wma", L"wmp", L"wmv"}) {
@@ -72,5 +68,3 @@ TEST(url_file_name, WordWithExtension) {
   }
   EXPECT_EQ(make_upper(L"az`{AZé\x80000061"), L"AZ`{AZé\x80000061");
 }
-
-}  // namespace

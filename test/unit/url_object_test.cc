@@ -3,8 +3,6 @@
 #include <korvane/korvane_links.h>
 #include "table.h"
 
-namespace {
-
 TEST(schemes, AreWholeAndInAnyCase) {
   const Table row = [](const Text& schema, unsigned type, unsigned port) {
     url_object url;
@@ -39,7 +37,7 @@ TEST(schemes, AreWholeAndInAnyCase) {
 }
 
 // Whether `text` is a URL, and the members after it was parsed over others.
-Text parsed(const Text& text) {
+static Text parsed(const Text& text) {
   url_object url = {L"S", L"U", L"P", L"H", 9, L"A", L"E"};
   const bool is_url = url_object::parse_url(text, 65001, url);
   return (is_url ? L"" : L"no ") + url.schema + L" " + url.user + L" " +
@@ -95,5 +93,3 @@ TEST(url_object, ToStringPrintsWhatItHolds) {
   prints({L"f://", L"a ü", L"c@%41%", L"h i", 80, L"/j k", L""},
          L"f://a%20ü:c%40%41%25@h i/j k");
 }
-
-}  // namespace
