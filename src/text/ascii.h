@@ -25,25 +25,32 @@ constexpr std::basic_string_view<Unit> until_zero(
 }
 
 // The lower-case form of the letters "A" to "Z"; any other unit unchanged.
-constexpr wchar_t to_lower_ascii(wchar_t unit) {
-  return unit >= L'A' && unit <= L'Z' ? unit + (L'a' - L'A') : unit;
+template <typename Unit>
+constexpr Unit to_lower_ascii(Unit unit) {
+  const bool is_upper = unit >= Unit('A') && unit <= Unit('Z');
+  return static_cast<Unit>(is_upper ? unit + ('a' - 'A') : unit);
 }
 
-// Whether `text` begins with `word`, which is in lower case, in any case.
-inline bool begins_with_ascii_nocase(std::wstring_view text,
-                                     std::wstring_view word) {
-  if (text.size() < word.size()) return false;
-  for (std::size_t i = 0; i < word.size(); ++i) {
-    if (to_lower_ascii(text[i]) != word[i]) return false;
-  }
-  return true;
+inline bool begins_with(std::wstring_view text, std::wstring_view prefix) {
+  return text.size() >= prefix.size() &&
+         std::equal(prefix.begin(), prefix.end(), text.begin());
+}
+
+// Whether `text` begins with `prefix`, which is in lower case, in any case.
+template <typename Unit>
+bool begins_with_nocase(std::basic_string_view<Unit> text,
+                        std::string_view prefix) {
+  return text.size() >= prefix.size() &&
+         std::equal(prefix.begin(), prefix.end(), text.begin(),
+                    [](char lower, Unit unit) {
+                      return to_lower_ascii(unit) == Unit(lower);
+                    });
 }
 
 // Whether `text` contains `word`, which is in lower case, in any case.
-inline bool contains_ascii_nocase(std::wstring_view text,
-                                  std::wstring_view word) {
+inline bool contains_nocase(std::wstring_view text, std::string_view word) {
   for (; text.size() >= word.size(); text.remove_prefix(1)) {
-    if (begins_with_ascii_nocase(text, word)) return true;
+    if (begins_with_nocase(text, word)) return true;
   }
   return false;
 }

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "text/ascii.h"
 #include "text/hex_digits.h"
 
 namespace xstringutil {
@@ -51,8 +52,7 @@ std::string escape(std::string_view bytes, std::string_view unescaped,
 
 bool IsBeginWith(const wchar_t* text, unsigned text_len,
                  const std::wstring& prefix) {
-  if (text == nullptr || prefix.size() > text_len) return false;
-  return std::wstring_view(text, prefix.size()) == prefix;
+  return text != nullptr && qk::text::begins_with({text, text_len}, prefix);
 }
 
 bool IsEndWith(const char* text, unsigned text_len, const std::string& suffix) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include <korvane/korvane_links.h>
+#include "text/ascii.h"
 #include "url/base_decoding.h"
 #include "url/entry_point.h"
 #include "url/narrow_text.h"
@@ -16,6 +17,7 @@
 namespace {
 
 using namespace qk::url;
+using qk::text::begins_with;
 using namespace std::string_view_literals;
 
 constexpr std::wstring_view kPrefix = L"magnet:?";
@@ -29,21 +31,16 @@ struct InfoHash {
   bool is_found = false;
 };
 
-bool starts_with(std::wstring_view text, std::wstring_view prefix) {
-  return text.size() >= prefix.size() &&
-         std::equal(prefix.begin(), prefix.end(), text.begin());
-}
-
 // The parameters of a link; empty if it is no magnet link.
 std::wstring_view parameters_of(std::wstring_view url) {
-  return starts_with(url, kPrefix) ? url.substr(kPrefix.size()) : L""sv;
+  return begins_with(url, kPrefix) ? url.substr(kPrefix.size()) : L""sv;
 }
 
 // Whether the key at the start of `rest` is `name`, or `name` with a number as
 // in "tr.1"; if so, moves `rest` to the value. A parameter without "=" is its
 // own value.
 bool take_key(std::wstring_view& rest, std::wstring_view name) {
-  if (!starts_with(rest, name)) return false;
+  if (!begins_with(rest, name)) return false;
   std::size_t end = name.size();
   if (end < rest.size() && rest[end] == L'.') {
     end = std::min(rest.find_first_of(L"=&", end), rest.size());
@@ -81,7 +78,7 @@ bool decode_hash(std::wstring_view digits, InfoHash& hash) {
 
 // Reads the value of "xt"; false if it makes the link invalid.
 bool read_exact_topic(std::wstring_view value, InfoHash& hash) {
-  if (!starts_with(value, kHashPrefix)) return false;
+  if (!begins_with(value, kHashPrefix)) return false;
   hash.is_found = true;
   std::wstring bytes;
   return decode_hash(narrow_bytes(value.substr(kHashPrefix.size()), bytes),

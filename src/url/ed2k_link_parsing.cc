@@ -183,8 +183,7 @@ bool read_optional_field(std::wstring_view field, const Fields& fields) {
     }
     return true;
   }
-  return !contains_ascii_nocase(text, L"sources,"sv) ||
-         read_sources(field, fields);
+  return !contains_nocase(text, "sources,"sv) || read_sources(field, fields);
 }
 
 // Valid UTF-8 needs no converter.
@@ -235,8 +234,8 @@ bool read_link(std::wstring_view url, Fields& fields, ScratchText& scratch) {
     if (!next_piece(url, separator, piece)) return false;
   }
   const auto& [scheme, kind, name, size, hash] = pieces;
-  if (!begins_with_ascii_nocase(scheme, L"ed2k://"sv)) return false;
-  if (!begins_with_ascii_nocase(kind, L"file"sv)) return false;
+  if (!begins_with_nocase(scheme, "ed2k://"sv)) return false;
+  if (!begins_with_nocase(kind, "file"sv)) return false;
   fields.name = name;
   read_size(size, fields.size);
   if (fields.size == 0 || fields.size > kLargestFile) return false;

@@ -1,7 +1,5 @@
 #include "url/schemes.h"
 
-#include <algorithm>
-
 #include "text/ascii.h"
 
 namespace qk::url {
@@ -23,14 +21,7 @@ constexpr Scheme kUnknown = {"", SCHEMA_UNKNOWN, 80};
 template <typename Unit>
 const Scheme& find_scheme(std::basic_string_view<Unit> url) {
   for (const Scheme& scheme : kSchemes) {
-    const std::string_view text = scheme.text;
-    if (url.size() >= text.size() &&
-        std::equal(text.begin(), text.end(), url.begin(),
-                   [](char lower, Unit unit) {
-                     return text::to_lower_ascii(unit) == lower;
-                   })) {
-      return scheme;
-    }
+    if (text::begins_with_nocase(url, scheme.text)) return scheme;
   }
   return kUnknown;
 }
