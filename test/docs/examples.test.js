@@ -22,6 +22,7 @@ fs.symlinkSync(makePackage(),
   path.join(project, 'node_modules/korvane-helper'));
 run('cmake', ['--install', build, '--prefix', prefix]);
 const env = { ...process.env, CMAKE_GENERATOR: 'Ninja',
+  PATH: `${path.dirname(node)}:${process.env.PATH}`,
   CMAKE_PREFIX_PATH: prefix, PKG_CONFIG_PATH: path.dirname(
     run('find', [prefix, '-name', 'korvane_links.pc'])) };
 
