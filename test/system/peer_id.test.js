@@ -77,6 +77,7 @@ test('GetIp learns the address from its own broadcast', () => {
   // One character more does not fit: the process ends.
   const long = broadcast('10.100.100.10');
   assert.strictEqual(long.stdout, '');
+  assert(/^GetIp: the address is longer than 12 /.test(long.stderr));
   assert.strictEqual(long.status, 134);
 });
 
