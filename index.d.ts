@@ -3,15 +3,16 @@
  * return a constant and 76 do nothing; every name exists on every platform.
  *
  * Nothing throws. If an argument is missing or has the wrong type, a function
- * returns its fallback. Arguments are not converted, unless it says so: "5" is
- * no number, and `new String("a")` is no string. Numbers become 32-bit
- * integers. Strings are cut silently at their limits, which count UTF-8 bytes.
- * Every call blocks until it is done.
+ * returns its fallback. Arguments are not converted, except where documented:
+ * "5" is not a number, and `new String("a")` is not a string. Numbers become
+ * 32-bit integers. Strings are truncated silently at their limits, which are in
+ * UTF-8 bytes. Calls block until they are done.
  *
- * A window is its X11 identifier. A window that no longer exists terminates the
- * process: the X library exits, and no `try` catches it. So does window 0, but
- * not in `isWindowHandle`, `enableWindow` and `getWindowRect`. Positions and
- * sizes are in pixels. Without a display a function returns its fallback.
+ * Windows are identified by their X11 window ID. A window that no longer exists
+ * terminates the process: the X library exits, and `try` does not catch that.
+ * Window 0 does the same, except in `isWindowHandle`, `enableWindow` and
+ * `getWindowRect`. Positions and sizes are in pixels. Without a display a
+ * function returns its fallback.
  *
  * @packageDocumentation
  */
@@ -26,17 +27,17 @@ export interface Rectangle {
 }
 
 /**
- * Whether the window exists and has a property. Terminates the process for a
- * window that no longer exists.
+ * Whether the window has X11 properties, as main windows have. Terminates the
+ * process for a window that no longer exists.
  *
  * @returns fallback `false`
  */
 export function isWindowHandle(window: number): boolean;
 
 /**
- * The size of a window without its border, and its position counted twice: its
- * place on the screen plus its position in its parent. A window at (10, 20) of
- * the screen returns x 20 and y 40.
+ * The size of a window without its border, and a wrong position: its position
+ * on the screen plus that in its parent. For a window at (10, 20) of the screen
+ * x is 20 and y is 40.
  *
  * @returns fallback zeros, or `undefined` without an argument
  */
@@ -68,7 +69,7 @@ export function moveWindow(
  *   none; a window that is no sibling terminates the process
  * @param flags 0x1 keeps the size, 0x2 keeps the position, 0x40 shows, 0x80
  *   hides unless 0x40 is set; others are ignored
- * @returns always `false`; read the new place with `getWindowRect`
+ * @returns always `false`; check with `getWindowRect`
  */
 export function setWindowPos(
   window: number,
@@ -85,7 +86,7 @@ export function setWindowPos(
  * numbers.
  *
  * @param command 0 hides, 5 shows, 3 asks the window manager to maximise, which
- *   most ignore in this form; others do nothing
+ *   most window managers ignore; others do nothing
  * @returns always `false`
  */
 export function showWindow(window: number, command: number): boolean;
@@ -100,8 +101,8 @@ export function bringWindowToTop(window: number): boolean;
 /**
  * Changes nothing: X11 windows always accept input.
  *
- * @returns `false` for a window; `undefined` for what `isWindowHandle` denies,
- *   and as the fallback
+ * @returns `false`, or `undefined` if `isWindowHandle` is false; fallback
+ *   `undefined`
  */
 export function enableWindow(
   window: number,

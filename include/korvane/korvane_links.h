@@ -13,8 +13,8 @@
  *    unchanged beyond the length that is stored for them.
  * 4. No function throws. Out of memory and lengths above 4294967295 give
  *    URL_E_BUFFER in URL functions, URL_E_UNSUPPORTED in link functions.
- * 5. A code page is the encoding of percent-encoded bytes: 65001 UTF-8, 936
- * GBK, 1252 Western, ...; 0 and 0xFFFFFFFF mean the default.
+ * 5. A code page is the encoding of percent-escapes: 65001 UTF-8, 936 GBK, 1252
+ *    Western, ...; 0 and 0xFFFFFFFF mean the default.
  * 6. There is no state: all functions may be called from several threads.
  */
 #ifndef KORVANE_KORVANE_LINKS_H_
