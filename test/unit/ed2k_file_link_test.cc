@@ -49,7 +49,8 @@ TEST(ed2k_file_link, HasFivePieces) {
   const Text end = L"|a|100|" + kHash;
   for (const Text& none :
        {L""s, kFile + L"a|100|", L"ed2k:/x|file" + end, L"xed2k://|file" + end,
-        L"ed2\x212A://|file" + end, L"ed2k://|xfile" + end, escaped + L"|",
+        L"ed2\x212A://|file" + end, L"ed2k://|xfile" + end,
+        L"ed2k://|fil" + end, L"ed2k:|file" + end, escaped + L"|",
         L"ed2k://%7cfile%7ca%7c7%7c" + kHash}) {
     row(none, L"no - 0 " + kZeros);
   }
@@ -67,7 +68,7 @@ TEST(ed2k_file_link, ReadsTheLowHalfOfTheSize) {
   row(link_with(L"18446744073709551616"), L"yes 4294967295");
   row(link_with(L"-5x"), L"yes 4294967291");
   row(link_with(L" \t\n+010\xD800"), L"yes 10");
-  row(link_with(Text(63, L'0') + L"12"), L"yes 1");  // of 64 units
+  row(link_with(L"+" + Text(62, L'0') + L"12"), L"yes 1");  // of 64 units
   row(link_with(Text(100, L' ') + L"12"), L"yes 12");
   // The high half stays; the whole is checked.
   ed2k_file_link link(L"", 0x4000000000009, {});

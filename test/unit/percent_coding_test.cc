@@ -16,7 +16,7 @@ std::wstring read_by_host(const std::string& bytes, int code_page) asm(
     "__wrap__Z32string_to_wstring_with_code_pageRKNSt7__cxx1112basic_stringIcSt"
     "11char_traitsIcESaIcEEEi");
 
-static int last_code_page = 0;
+static thread_local int last_code_page = 0;
 
 std::wstring read_by_host(const std::string& bytes, int code_page) {
   last_code_page = code_page;

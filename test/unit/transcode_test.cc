@@ -30,6 +30,7 @@ TEST(transcode, ConvertsUpToWhatItCannot) {
   narrow(transcode::GBK_to_UTF8, "a\xD6", "a");
   narrow(transcode::UTF8_to_GBK, "\xE4\xB8\xAD\xED\xA0\x80", "\xD6\xD0");
   narrow(transcode::UTF8_to_GBK, "ab" + kSmile + "c", "ab");
+  narrow(transcode::UTF8_to_GBK, Bytes(2047, 'n'), Bytes(2047, 'n'));
   narrow(transcode::UTF8_to_GBK, Bytes(5000, 'n'), Bytes(5000, 'n'));
   widened(transcode::UTF8_to_Unicode, kSmile + "a", L"\x1F600\x61");
   widened(transcode::GBK_to_Unicode, "\xD6\xD0\xB9\xFA", L"\x4E2D\x56FD");

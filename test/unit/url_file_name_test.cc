@@ -51,7 +51,7 @@ TEST(url_file_name, WordWithExtension) {
   row(L"x yéa-b$9Z.ZIP", L"a-b$9Z.ZIP");
   for (const Text none :
        {L"", L"zip", L"a.html", L"get setup.Exe", L"get a.exe;",
-        L"get a.exe\x120", L"a .zip", L"x_.zip", L".zip", L"a.exex b.exe",
+        L"get a.exe\x100", L"a .zip", L"x_.zip", L".zip", L"a.exex b.exe",
         L"A.EXE b.exex"}) {
     row(none, L"");
   }
