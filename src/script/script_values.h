@@ -7,9 +7,8 @@
 //    fallback.
 // 2. An argument beyond the count is undefined.
 // 3. Nothing throws into script. A string that cannot be read is empty, a
-// number
-//    that cannot be read is not-a-number, a result that cannot be made is
-//    undefined. Out of memory, a function ends with the result set so far.
+//    number that cannot be read is not-a-number, a result that cannot be made
+//    is undefined. Out of memory, a function ends with the result set so far.
 #ifndef KORVANE_SCRIPT_SCRIPT_VALUES_H_
 #define KORVANE_SCRIPT_SCRIPT_VALUES_H_
 

@@ -144,14 +144,16 @@ test('nothing of a script that is being terminated runs on', () => {
     'asyncShellExecuteAndWait(1, forever, forever, Object)',
     'attachClipBoard(forever.toString)',
     'attachClipBoard(() => { helper.setDefaultDPI(forever); ran = true; })',
+    'attachClipBoard(Object.defineProperty(list, 0, set) && Object)',
     'getCursorPos(Object.defineProperty(Object.prototype, "x", set))'];
   for (const code of calls) {
-    const sandbox = { helper, forever, Object, set, ran: false };
+    const sandbox = { helper, forever, Object, set, list: Array.prototype };
     assert.throws(() => vm.runInNewContext(`
       try { helper.${code}; ran = true; } catch (e) { ran = true; }
       finally { ran = true; } for (;;) ran = true;`, sandbox, { timeout: 20 }),
     /timed out/, code);
     delete Object.prototype.x;
-    assert.strictEqual(sandbox.ran, false, code);
+    delete Array.prototype[0];
+    assert.strictEqual(sandbox.ran, undefined, code);
   }
 });
