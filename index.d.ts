@@ -10,9 +10,9 @@
  *
  * Windows are identified by their X11 window ID. A window that no longer exists
  * terminates the process: the X library exits, and `try` does not catch that.
- * Window 0 does the same, except in `isWindowHandle`, `enableWindow` and
- * `getWindowRect`. Positions and sizes are in pixels. Without a display a
- * function returns its fallback.
+ * Window 0 does the same in a function that changes windows. Positions and sizes
+ * are in pixels. Without a display a function returns its fallback, though
+ * `getKeyState` returns 1.
  *
  * @packageDocumentation
  */
@@ -153,7 +153,7 @@ export function setDefaultDPI(dpi: number): undefined;
  * @param command cut after 1,023 bytes, and what is left is run. Never build it
  *   from outside text: the shell runs whatever is in it.
  * @returns its standard output, cut after 20,479 bytes and at the first zero
- *   byte; "" also if it failed; fallback `undefined`, and nothing is run
+ *   byte; "" if it could not start; fallback `undefined`, and nothing is run
  */
 export function System(command: string): string;
 
