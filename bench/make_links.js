@@ -10,7 +10,8 @@ const fs = require('fs');
 const HEX = '0123456789abcdef';
 const BASE32 = 'ABCDEFGHIJKLMNOPQRSTUVWXYZ234567';
 const PLAIN = `${'abcdefghijklmnopqrstuvwxyz'.repeat(2)}0123456789`;
-const BEYOND_ASCII = ['aeiourstnléèüñçø', 'абвгдежзиклмнопрст', '中文名字电影音乐下载'];
+const BEYOND_ASCII = ['aeiourstnléèüñçø', 'абвгдежзиклмнопрст',
+  '中文名字电影音乐下载'];
 const SEPARATORS = "   ...__--()[]&'+,!";
 
 let state = 1;
@@ -23,14 +24,16 @@ function random() {
   return (state >>> 0) / 2 ** 32;
 }
 
-const between = (least, most) => least + Math.floor(random() * (most - least + 1));
+const between = (least, most) => (
+  least + Math.floor(random() * (most - least + 1)));
 const oneIn = (sides) => random() * sides < 1;
 const of = (choices) => choices[between(0, choices.length - 1)];
 const repeat = (count, make) => Array.from({ length: count }, make).join('');
-const word = (alphabet, least, most = least) => repeat(between(least, most), () => of(alphabet));
+const word = (alphabet, least, most = least) => (
+  repeat(between(least, most), () => of(alphabet)));
 
-const host = () =>
-  repeat(between(1, 2), () => `${word(PLAIN, 2, 12)}.`) + of(['com', 'org', 'net', 'io']);
+const host = () => repeat(between(1, 2), () => `${word(PLAIN, 2, 12)}.`) +
+  of(['com', 'org', 'net', 'io']);
 const folders = () => word(PLAIN, 1, 59).replace(/(...)./g,
   (all, kept) => (oneIn(3) ? `${kept}${of('/.-_')}` : all));
 
@@ -40,8 +43,9 @@ function fileName(most = 120) {
 }
 
 function tracker() {
-  const url = `${of(['udp', 'udp', 'http', 'https'])}://${host()}:${between(80, 9999)}`
-    + (oneIn(4) ? '' : '/announce');
+  const scheme = of(['udp', 'udp', 'http', 'https']);
+  const url = `${scheme}://${host()}:${between(80, 9999)}` +
+    (oneIn(4) ? '' : '/announce');
   return `&tr=${oneIn(5) ? url : encodeURIComponent(url)}`;
 }
 
@@ -54,13 +58,17 @@ const servers = Array.from({ length: 8 }, (_, i) => [
   `@${host()}${oneIn(2) ? `:${between(21, 9999)}` : ''}/`].join(''));
 
 const makers = {
-  user: () => of(servers) + folders() + (oneIn(5) ? `/${encodeURIComponent(fileName(20))}` : ''),
-  magnet: () => `magnet:?xt=urn:btih:${oneIn(5) ? word(BASE32, 32) : word(HEX, 40)}`
+  user: () => of(servers) + folders() +
+    (oneIn(5) ? `/${encodeURIComponent(fileName(20))}` : ''),
+  magnet: () => 'magnet:?xt=urn:btih:'
+    + (oneIn(5) ? word(BASE32, 32) : word(HEX, 40))
     + (oneIn(10) ? '' : `&dn=${encodeURIComponent(fileName())}`)
     + (oneIn(4) ? `&xl=${between(1, 2e9)}` : '')
     + repeat(between(0, 12), tracker)
-    + (oneIn(10) ? `&ws=${encodeURIComponent(`http://${host()}/${folders()}`)}` : ''),
-  ed2k: () => `ed2k://|file|${(oneIn(3) ? String : encodeURIComponent)(fileName())}`
+    + (oneIn(10) ? `&ws=${encodeURIComponent(`http://${host()}/${folders()}`)}`
+      : ''),
+  ed2k: () => 'ed2k://|file|'
+    + (oneIn(3) ? String : encodeURIComponent)(fileName())
     + `|${between(1, 2e9)}|${word(HEX, 32)}|`
     + (oneIn(10) ? `p=${word(HEX, 32)}:${word(HEX, 32)}|` : '')
     + (oneIn(2) ? `h=${word(BASE32, 32)}|` : '')

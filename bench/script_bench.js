@@ -54,24 +54,28 @@ function timer(now, calls, target, text) {
 }
 
 function compare(row, name, [ours, theirs], text, now = used, calls = 100000) {
-  measure(row, { ours: timer(now, calls, ours, text), [name]: timer(now, calls, theirs, text) });
+  measure(row, { ours: timer(now, calls, ours, text),
+    [name]: timer(now, calls, theirs, text) });
 }
 
 ['isWin7', 'isDwmCompositionEnabled', 'getDesktopPath'].forEach((name) => {
   compare(`${name}/fixed`, 'empty function', [helper[name], byHand.empty], '');
 });
-[['read', "'one', 'two', 'three', done"], ['missing', "'one', 2, 'three', done"]]
-  .forEach(([list, text]) => {
+[['read', "'one', 'two', 'three', done"],
+  ['missing', "'one', 2, 'three', done"]].forEach(([list, text]) => {
     compare(`asyncUpgradeEmuleTask/three texts ${list}`, 'by hand',
       [helper.asyncUpgradeEmuleTask, byHand.readThreeTexts], text);
   });
-[['getCursorPos', ''], ['moveWindow', `${byHand.createWindow()}, 1, 2, 100, 80, true`]]
-  .forEach(([name, text]) => {
-    compare(`${name}/a display`, 'libX11', [helper[name], byHand[name]], text, passed, 20);
+[['getCursorPos', ''],
+  ['moveWindow', `${byHand.createWindow()}, 1, 2, 100, 80, true`],
+].forEach(([name, text]) => {
+    compare(`${name}/a display`, 'libX11', [helper[name], byHand[name]], text,
+      passed, 20);
   });
 
 // A process for each turn: a module is loaded once.
-const load = (file, ...before) => () => Number(execFileSync(process.execPath, ['-e', `
+const load = (file, ...before) => () => Number(execFileSync(
+  process.execPath, ['-e', `
   const used = ${used};
   ${JSON.stringify(before)}.forEach((one) => require(one));
   const begin = used();

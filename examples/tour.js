@@ -10,7 +10,7 @@ const helper = require(file);
 const heading = (text) => console.log(`\n${text}`);
 const line = (label, value) => console.log(`  ${label.padEnd(48)} ${value}`);
 const show = (expression) => line(expression,
-  JSON.stringify(new Function('helper', `return helper.${expression}`)(helper)));
+  JSON.stringify(Function('helper', `return helper.${expression}`)(helper)));
 
 const names = Object.keys(helper);
 
@@ -27,7 +27,7 @@ show('setDefaultDPI(120)');
 show('getMonitorDPIFactor()');
 show('setDefaultDPI(96)');
 
-heading('This machine, and who it is to its peers (the trace is the module\'s)');
+heading('This machine and its peer identifier (the trace is the module\'s)');
 show('getPeerID()');
 show('getCpuProcessors()');
 show('getFileVersion()');

@@ -10,7 +10,7 @@ const helper = require(path.resolve(process.argv[2]));
 const picture = path.resolve(process.argv[3]);
 
 const run = (command, ...args) => (
-  execFileSync(command, args.map(String), { encoding: 'utf8', timeout: 20000 }));
+  execFileSync(command, args.map(String), { encoding: 'utf8', timeout: 2e4 }));
 
 // Starts a program that ends with the tour; its window, once that is shown. The
 // title is like no other's, so that no window of the user's is taken for it.
@@ -26,10 +26,12 @@ function start(program, ...args) {
 function placeOf(id) {
   const text = run('xwininfo', '-id', id);
   const number = (label) => Number(text.match(`${label}: +(-?\\d+)`)[1]);
-  const [x, y] = ['X', 'Y'].map((axis) => number(`Absolute upper-left ${axis}`));
+  const [x, y] = ['X', 'Y'].map((axis) => (
+    number(`Absolute upper-left ${axis}`)));
   const [width, height] = [number('Width'), number('Height')];
   const shown = /Map State: IsViewable/.test(text);
-  return { x, y, width, height, shown, text: `${width}x${height} at ${x},${y}, ` +
+  const place = `${width}x${height} at ${x},${y}`;
+  return { x, y, width, height, shown, text: `${place}, ` +
     `${shown ? 'shown' : 'hidden'}` };
 }
 
