@@ -68,16 +68,15 @@ class ed2k_file_link {
   //
   // Quirks:
   // - Only the low 32 bits of the size are read; the high ones are not changed.
-  // - "< > : \" / \ | ? *" become "_" in a name with escapes, and stay in
-  // others.
+  // - "< > : \" / \ | ? *" become "_" in an ASCII name with a "%"; they stay in
+  //   others.
   // - The key of an optional field counts anywhere in the field, in the order
   //   "h=", "p=", "s=", "sources,".
   bool create_from_ed2k_url(const std::wstring& url);
 
   // Replace `out` with the link, as UTF-8 or wide. `flags` selects the optional
   // fields; a selected field is printed even if it is empty. Names are not
-  // escaped: a link with "|" or "%" in its name cannot be read back. Return
-  // true.
+  // escaped: a link with "|" or "%" in its name may not read back. Return true.
   bool get_ed2k_url(std::string& out, unsigned long flags) const;
   bool get_ed2k_url(std::wstring& out, unsigned long flags) const;
 

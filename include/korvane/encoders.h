@@ -2,8 +2,8 @@
 // are in korvane_links.h.
 //
 // A decoder replaces `out`, which must not contain the text that is decoded. If
-// it returns false, `out` holds the bytes before the invalid character. With a
-// length of 0 the pointer may be null.
+// it returns false, `out` begins with the bytes before the invalid character.
+// With a length of 0 the pointer may be null.
 #ifndef KORVANE_ENCODERS_H_
 #define KORVANE_ENCODERS_H_
 
@@ -19,7 +19,7 @@ std::string encode_base16(const void* bytes, unsigned long length);
 
 // Digits are case-insensitive; an odd last digit is checked and dropped. `out`
 // is resized to `length` / 2 bytes: on false, those from the invalid character
-// on have their old values or zero.
+// on are unspecified.
 // Quirk: the seven characters between "9" and "A" are read as 9.
 bool decode_base16(const char* text, unsigned long length, std::string& out);
 
@@ -31,8 +31,7 @@ std::string encode_base32(const void* bytes, unsigned long length);
 bool decode_base32(const char* text, unsigned long length, std::string& out);
 
 // Copies letters (isalpha in the current locale) and encodes every other byte
-// as
-// "%" and two characters.
+// as "%" and two characters.
 // Quirk: the digits are unusual, "A" to "J" for 0 to 9 and ":" to "?" for 10 to
 // 15, so decode_url does not decode them. A zero byte follows the text and is
 // part of the result.

@@ -72,7 +72,7 @@ typedef struct ed2k_url_info_u {
  *
  * URL_E_INVALID_ARG: `url` or `info` is null.
  * URL_E_PARSE: the URL has no scheme, nothing between "://" and the next "/",
- *   or a port that is not a number.
+ *   or a port that is not a number. An empty port is 0.
  * URL_E_UNSUPPORTED: the scheme is unknown, or the URL is empty.
  * URL_E_BUFFER: a part is longer than its array. Parts are written in the order
  *   scheme, user, password, host, path; those before it are written.
@@ -129,7 +129,8 @@ long parse_magnet_url_u(const wchar_t* url, size_t length,
  * of the text without the zero.
  *
  * BASE64_E_BUFFER: `source` is null or empty; or the capacity is too small, and
- *   `*destination_length` becomes the capacity needed.
+ *   `*destination_length` becomes the capacity needed, at most 4294967295:
+ *   sources from 3221225470 bytes on cannot be encoded.
  */
 int base64_encode(char* destination, unsigned* destination_length,
                   const unsigned char* source, unsigned source_length);

@@ -55,7 +55,7 @@ constexpr bool is_default_code_page(unsigned code_page) {
   return code_page == 0 || code_page == 0xFFFFFFFF;
 }
 
-// Whether decoding leaves `text` as it is. No early exit: the compiler looks at
+// Whether `text` needs no look at its encoding. No early exit: the compiler looks at
 // several code units at once, which a URL with a user feels.
 inline bool is_decoded(std::wstring_view text, unsigned code_page) {
   unsigned special = 0;

@@ -134,7 +134,7 @@ long is_support_schema(const char* schema, size_t schema_len,
                        unsigned* supported) {
   if (schema == nullptr || supported == nullptr) return URL_E_INVALID_ARG;
   if (schema_len > kLongestText) return URL_E_BUFFER;
-  // Schemes are ASCII, which every narrow encoding reads alike.
+  // Schemes are ASCII, which the default narrow encoding reads as it is.
   const SCHEMA_TYPE type =
       scheme_named(std::string_view(schema, schema_len)).type;
   // Quirk: "peer://" is not supported, although parse_url_u accepts it.
