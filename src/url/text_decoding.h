@@ -55,8 +55,8 @@ constexpr bool is_default_code_page(unsigned code_page) {
   return code_page == 0 || code_page == 0xFFFFFFFF;
 }
 
-// Whether `text` needs no look at its encoding. No early exit: the compiler looks at
-// several code units at once, which a URL with a user feels.
+// Whether `text` needs no look at its encoding. No early exit: the compiler
+// looks at several code units at once, which a URL with a user feels.
 inline bool is_decoded(std::wstring_view text, unsigned code_page) {
   unsigned special = 0;
   for (const wchar_t unit : text) {
