@@ -16,7 +16,7 @@ const Table row = [](const Text& url, const Text& want) {
                 : link.has_info_hash()  ? L"hash"
                                         : L"no";
   const Bytes& bytes = link.get_info_hash();
-  const Text hash = string_2_wstring(encode_base16(&bytes[0], bytes.size()));
+  const Text hash = string_2_wstring(encode_base16(bytes.data(), bytes.size()));
   if (kHash != hash) fields += L" " + hash;
   const Text& name = link.get_display_name();
   if (!name.empty()) fields += L" " + name;

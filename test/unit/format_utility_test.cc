@@ -46,8 +46,8 @@ TEST(format_utility, ReadsAndPrintsRealNumbers) {
     const Text units = wide(text);
     EXPECT_EQ(Narrow::to_string(Narrow::str_to_float64(text.c_str())), want);
     EXPECT_EQ(Narrow::to_string(Narrow::str_to_float32(text.c_str())), want);
-    EXPECT_EQ(Wide::to_string(Wide::str_to_float64(&units[0])), wide(want));
-    EXPECT_EQ(Wide::to_string(Wide::str_to_float32(&units[0])), wide(want));
+    EXPECT_EQ(Wide::to_string(Wide::str_to_float64(units.c_str())), wide(want));
+    EXPECT_EQ(Wide::to_string(Wide::str_to_float32(units.c_str())), wide(want));
   };
   row("x1", "0.000000");
   row(" -1.5e3x", "-1500.000000");

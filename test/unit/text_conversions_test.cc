@@ -11,7 +11,7 @@ const Table decoded = [](const Bytes& bytes, int code_page, const Text& want) {
 TEST(text_conversions, NarrowTextIsUtf8UpToAZero) {
   for (const Text& text :
        {L"caf\xE9\x1F600\x1F600\0\xE9"s, L"plain\0"s, L""s}) {
-    const Text ended = text.c_str();
+    const Text ended = text.substr(0, text.find(L'\0'));
     EXPECT_EQ(string_2_wstring(wstring_2_utf8(text)), ended);
     EXPECT_EQ(string_2_wstring(wstring_2_string(text)), ended);
   }
@@ -54,7 +54,7 @@ TEST(text_conversions, CodePages) {
   const auto decoded_by_each = [](const Bytes& bytes, int first,
                                   const Text& want) {
     for (int i = 0; i < int(want.size() / 2); ++i) {
-      decoded(bytes, first + i, want.substr(2U * unsigned(i), 2));
+      decoded(bytes, first + i, want.substr(std::size_t(2) * unsigned(i), 2));
     }
   };
   decoded_by_each("\xF7\xFE", 1250,

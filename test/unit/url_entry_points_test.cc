@@ -45,6 +45,7 @@ static_assert(URL_E_UNSUPPORTED == -1 && URL_E_BUFFER == -4 &&
 struct Outputs {
   Outputs() { std::memset(this, '#', sizeof *this); }
   bool operator==(const Outputs& other) const {
+    // NOLINTNEXTLINE(*-suspicious-memory-comparison,*exp42-c,*flp37-c)
     return std::memcmp(this, &other, sizeof *this) == 0;
   }
   url_info_u url;
