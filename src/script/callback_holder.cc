@@ -12,8 +12,7 @@ CallbackHolder::CallbackHolder(v8::Isolate* owner,
 }
 
 void CallbackHolder::call(int count, v8::Local<v8::Value>* values) {
-  // A guard that begins now would end the termination on newer runtimes.
-  if (callback.IsEmpty() || isolate->IsExecutionTerminating()) return;
+  if (callback.IsEmpty()) return;
   const v8::HandleScope scope(isolate);
   const ScriptGuard guard(isolate);
   const v8::Local<v8::Context> context = isolate->GetCurrentContext();
