@@ -162,22 +162,27 @@ bool read_sources(std::wstring_view field, const Fields& fields) {
   return true;
 }
 
-// Whether `letter` and "=" are anywhere in `field`.
-bool has_key(std::wstring_view field, wchar_t letter) {
+// The letter before a "=", anywhere in `field`; zero if there is none. Quirk:
+// so a web address with "p=" in its query is read as part hashes.
+wchar_t key_of(std::wstring_view field) {
+  wchar_t key = L'\0';
   std::size_t sign = field.find(L'=', 1);
-  while (sign != field.npos && to_lower_ascii(field[sign - 1]) != letter) {
+  while (sign != field.npos) {
+    const wchar_t letter = to_lower_ascii(field[sign - 1]);
+    const bool is_key = letter == L'h' || letter == L'p' || letter == L's';
+    // They count in this order.
+    if (is_key && (key == L'\0' || letter < key)) key = letter;
     sign = field.find(L'=', sign + 1);
   }
-  return sign != field.npos;
+  return key;
 }
 
-// Quirk: a key counts anywhere in the field, in this order, so a web address
-// with "p=" in its query is read as part hashes.
 bool read_optional_field(std::wstring_view field, const Fields& fields) {
   const std::wstring_view text = until_zero(field);
-  if (has_key(text, L'h')) return read_root_hash(field.substr(2), fields);
-  if (has_key(text, L'p')) return read_part_hashes(field, fields);
-  if (has_key(text, L's')) {
+  const wchar_t key = key_of(text);
+  if (key == L'h') return read_root_hash(field.substr(2), fields);
+  if (key == L'p') return read_part_hashes(field, fields);
+  if (key == L's') {
     if (fields.link != nullptr) {
       fields.link->set_http_url(std::wstring(field.substr(2)));
     }
