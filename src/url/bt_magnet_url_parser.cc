@@ -100,7 +100,8 @@ std::wstring_view take_decoded(std::wstring_view& rest, wchar_t* out, See see) {
 std::wstring_view take_tracker(std::wstring_view& rest, wchar_t* out) {
   bool has_percent = false;
   const std::wstring_view once = take_decoded(
-      rest, out, [&](wchar_t unit) { has_percent |= unit == L'%'; });
+      rest, out,
+      [&](wchar_t unit, bool /*is_percent*/) { has_percent |= unit == L'%'; });
   if (!has_percent) return once;
   const wchar_t* end = percent_decode<Kept::kSeparating>(once, out);
   return {out, static_cast<std::size_t>(end - out)};
@@ -121,7 +122,7 @@ bool bt_magnet_url_parser::parse_magnet_url() {
       if (trackers_.empty()) trackers_.reserve(8);
       trackers_.emplace_back(take_tracker(rest, out));
     } else if (take_key(rest, L"dn"sv)) {
-      display_name_ = take_decoded(rest, out, [](wchar_t) {});
+      display_name_ = take_decoded(rest, out, [](wchar_t, bool) {});
     } else if (!take_key(rest, L"xt"sv)) {
       take_part(rest, L'&');
     } else {

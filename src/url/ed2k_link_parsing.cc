@@ -211,19 +211,17 @@ bool is_forbidden(wchar_t unit) {
 // `name` or of `scratch`. Quirk: a name without escapes, one with characters
 // beyond ASCII, and one that decodes to nothing are returned as they are.
 std::wstring_view decode_name(std::wstring_view name, ScratchText& scratch) {
-  if (name.find(L'%') == name.npos) return name;
+  if (name.find(L'%') == name.npos || !is_ascii(name)) return name;
   wchar_t* const begin = scratch.reserve(name.size());
-  std::uint32_t seen = 0;
-  const wchar_t* end = percent_decode(name, begin, [&seen](wchar_t& unit) {
-    seen |= code_of(unit);
-    if (is_forbidden(unit)) unit = L'_';
-  });
+  wchar_t seen = 0;
+  const wchar_t* const end =
+      percent_decode(name, begin, [&seen](wchar_t& unit, bool /*is_percent*/) {
+        seen |= unit;
+        if (is_forbidden(unit)) unit = L'_';
+      });
   std::wstring_view decoded(begin, static_cast<std::size_t>(end - begin));
   decoded = until_zero(decoded);
-  if (seen >= 0x80) {
-    if (!is_ascii(name)) return name;
-    decoded = scratch.hold(decode_bytes(decoded));
-  }
+  if (seen >= 0x80) decoded = scratch.hold(decode_bytes(decoded));
   return decoded.empty() ? name : decoded;
 }
 

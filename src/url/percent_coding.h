@@ -33,7 +33,8 @@ enum class Kept {
 // Writes `text` to `out` with each escape replaced by the code unit of its
 // value, 0 to 255, and returns the end: at most text.size() code units. `out`
 // may be the start of the text itself. A "%" that begins no escape is copied.
-// `see` is called with each code unit before it is written.
+// `see` is called with each code unit before it is written, and whether it
+// stands for a "%" or an escape.
 //
 // Stops at the first code unit outside of escapes for which `ends` returns
 // true; `text` becomes what is left from there on.
@@ -58,10 +59,11 @@ Out* percent_decode_until(Ends ends, std::basic_string_view<In>& text, Out* out,
         unit = static_cast<Out>(value);
         in += 2;
       }
-    } else if (ends(*in)) {
-      break;
+      see(unit, true);
+    } else {
+      if (ends(*in)) break;
+      see(unit, false);
     }
-    see(unit);
     *out++ = unit;
   }
   text.remove_prefix(static_cast<std::size_t>(in - begin));
@@ -77,7 +79,8 @@ Out* percent_decode(std::basic_string_view<In> text, Out* out, See see) {
 
 template <Kept kKept = Kept::kNothing, typename In, typename Out>
 Out* percent_decode(std::basic_string_view<In> text, Out* out) {
-  return percent_decode<kKept>(text, out, [](Out /*unit*/) {});
+  return percent_decode<kKept>(text, out,
+                               [](Out /*unit*/, bool /*is_percent*/) {});
 }
 
 // Appends `text` to `out`: characters that need it and reserved ones escaped,

@@ -55,15 +55,19 @@ constexpr bool is_default_code_page(unsigned code_page) {
   return code_page == 0 || code_page == 0xFFFFFFFF;
 }
 
-// Whether `text` needs no look at its encoding. No early exit: the compiler
-// looks at several code units at once, which a URL with a user feels.
+// Whether `code_page` is known to read 7-bit bytes as ASCII. Another host may
+// know code pages that do not.
+inline bool reads_ascii(unsigned code_page) {
+  constexpr unsigned kUtf8 = 65001;
+  return is_default_code_page(code_page) || code_page == kUtf8;
+}
+
+// Whether `text` needs no look at its encoding.
 inline bool is_decoded(std::wstring_view text, unsigned code_page) {
-  unsigned special = 0;
-  for (const wchar_t unit : text) {
-    special |= static_cast<unsigned>(unit == L'%') |
-               static_cast<unsigned>(unit == L'\0');
-  }
-  return text.empty() || (special == 0 && is_default_code_page(code_page));
+  const bool is_plain =
+      std::none_of(text.begin(), text.end(),
+                   [](wchar_t unit) { return unit == L'%' || unit == L'\0'; });
+  return text.empty() || (is_plain && is_default_code_page(code_page));
 }
 
 // Chooses the code page to read bytes in from the one that was asked for.
@@ -75,14 +79,22 @@ inline unsigned choose_as_asked(const std::string& /*bytes*/,
   return code_page;
 }
 
+// Decodes ASCII text that is not its own decoded form.
+void decode_escapes(ClassifiedText& text, unsigned code_page,
+                    ScratchText& scratch, ChooseCodePage choose);
+
 // Replaces `text` by its decoded form, a view of the same text or of `scratch`.
 //
 // Text with a character above 127 counts as decoded. Other text is
 // percent-decoded to bytes, which are read in `code_page` up to the first zero;
 // 0 and 0xFFFFFFFF mean the default narrow encoding.
-void decode_with_code_page(ClassifiedText& text, unsigned code_page,
-                           ScratchText& scratch,
-                           ChooseCodePage choose = choose_as_asked);
+inline void decode_with_code_page(ClassifiedText& text, unsigned code_page,
+                                  ScratchText& scratch,
+                                  ChooseCodePage choose = choose_as_asked) {
+  if (text.holds(kForeign)) return;
+  if (reads_ascii(code_page) && !text.holds(kPercent | kZero)) return;
+  decode_escapes(text, code_page, scratch, choose);
+}
 
 inline std::wstring_view decoded(std::wstring_view text, unsigned code_page,
                                  ScratchText& scratch) {

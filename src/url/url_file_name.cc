@@ -89,13 +89,15 @@ std::wstring_view word_with(std::wstring_view text,
 
 ClassifiedText last_segment(std::wstring_view text) {
   unsigned classes = 0;
-  std::size_t begin = text.size();
-  for (; begin > 0; --begin) {
-    const unsigned some = classes_of(text[begin - 1]);
-    if ((some & kSeparator) != 0) break;
-    classes |= some;
-  }
-  return {text.substr(begin), static_cast<CharacterClasses>(classes)};
+  const auto before =
+      std::find_if(text.rbegin(), text.rend(), [&classes](wchar_t unit) {
+        const unsigned some = classes_of(unit);
+        if ((some & kSeparator) != 0) return true;
+        classes |= some;
+        return false;
+      });
+  text.remove_prefix(static_cast<std::size_t>(text.rend() - before));
+  return {text, static_cast<CharacterClasses>(classes)};
 }
 
 std::wstring_view word_with_extension(std::wstring_view text) {
