@@ -30,9 +30,6 @@ std::basic_string<Unit> repeated(const std::basic_string<Unit>& text,
   return result;
 }
 
-// Whether WORKLOAD/LIST is run.
-bool is_wanted(const std::string& row);
-
 template <typename Run>
 benchmark::internal::Benchmark* measure(const std::string& row,
                                         const std::string& contender, Run run) {

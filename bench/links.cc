@@ -224,7 +224,6 @@ std::shared_ptr<Texts> accepted_by_all(const std::vector<Reader>& readers,
 void measure_list(const Workload& workload, const std::string& list,
                   const std::string& path) {
   const std::string row = workload.name + "/" + list;
-  if (!is_wanted(row)) return;
   const Texts lines = read_lines(path);
   const auto accepted = accepted_by_all(workload.readers, lines);
   if (const std::size_t refused = lines.size() - accepted->size()) {
@@ -277,7 +276,6 @@ void register_growth() {
     std::array<std::string, 5> fields;  // workload, list, begin, filling, end
     for (std::string& field : fields) std::getline(rest, field, '\t');
     const std::string row = fields[0] + "/by " + fields[1];
-    if (!is_wanted(row)) continue;
     const auto run = [fields, read = readers.at(fields[0])](auto& state) {
       const auto& [workload, list, begin, filling, end] = fields;
       auto times = static_cast<std::size_t>(state.range(0));

@@ -1,20 +1,17 @@
 // Measures ours and its peers in one process, in random order:
 //
-//   link_bench [--urls FILE] [NAME] [--benchmark_...]
+//   link_bench [--benchmark_...] [FILE]
 //
-// NAME is a part of WORKLOAD/LIST.
+// FILE holds the links to read instead of the built-in lists.
 #include <malloc.h>
 
 #include <clocale>
 #include <fstream>
-#include <string_view>
 
 #include <korvane/korvane_host.h>
 #include "bench.h"
 
 namespace {
-
-std::string wanted;
 
 // Freed memory stays in the process, as in a host that has run for a while:
 // otherwise large texts pay for pages that the kernel clears.
@@ -25,10 +22,6 @@ void keep_memory() {
 }
 
 }  // namespace
-
-bool bench::is_wanted(const std::string& row) {
-  return row.find(wanted) != std::string::npos;
-}
 
 bench::Text bench::make_text(const std::string& narrow) {
   return {narrow, string_2_wstring(narrow)};
@@ -48,15 +41,9 @@ int main(int count, char** arguments) {
   std::setlocale(LC_ALL, "C.UTF-8");
   keep_memory();
   benchmark::Initialize(&count, arguments);
-  std::string file;
-  for (int i = 1; i < count; ++i) {
-    const bool names_file = std::string_view(arguments[i]) == "--urls";
-    (names_file ? file : wanted) = arguments[names_file ? ++i : i];
-  }
+  const std::string file = count == 2 ? arguments[1] : "";
   bench::register_links(file);
-  if (file.empty()) {
-    bench::register_codecs();
-    bench::register_growth();
-  }
+  if (file.empty()) bench::register_codecs();
+  if (file.empty()) bench::register_growth();
   benchmark::RunSpecifiedBenchmarks();
 }

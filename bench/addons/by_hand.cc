@@ -46,18 +46,15 @@ void create_window(const Arguments& arguments) {
 void get_cursor_pos(const Arguments& arguments) {
   Display* display = XOpenDisplay(nullptr);
   Window window = None;
-  int root_x = 0;
-  int root_y = 0;
-  int x = 0;
-  int y = 0;
+  int at[4] = {};  // in the root window, then in this one
   unsigned buttons = 0;
-  XQueryPointer(display, XDefaultRootWindow(display), &window, &window, &root_x,
-                &root_y, &x, &y, &buttons);
+  XQueryPointer(display, XDefaultRootWindow(display), &window, &window, &at[0],
+                &at[1], &at[2], &at[3], &buttons);
   XCloseDisplay(display);
   v8::Isolate* isolate = arguments.GetIsolate();
   const v8::Local<v8::Object> position = v8::Object::New(isolate);
-  set(isolate, position, "x", x);
-  set(isolate, position, "y", y);
+  set(isolate, position, "x", at[2]);
+  set(isolate, position, "y", at[3]);
   arguments.GetReturnValue().Set(position);
 }
 
