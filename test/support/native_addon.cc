@@ -1,10 +1,13 @@
-// An addon with what scripts cannot reach: the completion functions, which
-// nothing on this platform calls, and a function without a name. It also makes
-// windows, and knows what memory is in use.
+// An addon with what scripts cannot reach: functions without a name, and
+// results that the module drops. It also makes windows, and knows what memory
+// is in use.
 #include <malloc.h>
 
 #include <climits>
+#include <cstdio>
 
+#include "platform/linux_shell.h"
+#include "platform/x_window.h"
 #include "script/korvane_helper.h"
 
 // Last: its macros are words of other headers.
@@ -15,41 +18,92 @@ namespace {
 const std::vector<std::wstring> kNames = {
     L"Core", L"", L"中文", L"😀A", {0x00410042, 0x00430044, 0x0045}};
 
-using Holder = CallbackHolder*;
-constexpr int (*kCompletions[])(Holder) = {
-    [](Holder holder) {
-      return KorvaneHelper::OnIsSSD(7, true, {1, 0, -1, INT_MAX}, holder);
-    },
-    [](Holder holder) {
-      return KorvaneHelper::OnGetDriveMediaType(-1, INT_MIN, holder);
-    },
-    [](Holder holder) {
-      return KorvaneHelper::OnGetDriveMediaType(0, 3, holder);
-    },
-    [](Holder holder) {
-      return KorvaneHelper::OnGetCpuList(7, kNames, holder);
-    },
-    [](Holder holder) { return KorvaneHelper::OnGetAppList(7, {}, holder); },
-};
-
-// complete(row, callback); "no holder" and "no isolate" leave these out.
+// complete(callback): every completion, which nothing on this platform calls;
+// "no holder" and "no isolate" leave these out.
 void complete(const Call& call) {
-  const std::string callback = Utf8Argument<16>(call, 1).c_str();
+  const std::string callback = Utf8Argument<16>(call, 0).c_str();
   v8::Isolate* isolate = callback == "no isolate" ? nullptr : call.GetIsolate();
-  auto* holder =
-      callback == "no holder" ? nullptr : new CallbackHolder(isolate, call[1]);
-  set_result(call, kCompletions[read_int32(call, 0)](holder));
+  const auto holder = [&] {
+    return callback == "no holder" ? nullptr
+                                   : new CallbackHolder(isolate, call[0]);
+  };
+  const int results[] = {
+      KorvaneHelper::OnIsSSD(7, true, {1, 0, -1, INT_MAX}, holder()),
+      KorvaneHelper::OnGetDriveMediaType(-1, INT_MIN, holder()),
+      KorvaneHelper::OnGetDriveMediaType(0, 3, holder()),
+      KorvaneHelper::OnGetCpuList(7, kNames, holder()),
+      KorvaneHelper::OnGetAppList(7, {}, holder())};
+  for (const int result : results) set_result(call, result == 0);
 }
 
-// Makes a window at (10, 20) of 100 x 80 pixels and shows it.
-void create_window(const Call& call) {
+// compareNull(place): the string in this place is null.
+void compare_null(const Call& call) {
+  const bool is_first = read_int32(call, 0) == 0;
+  LinuxShell::CompareStr(is_first ? nullptr : "", is_first ? "" : nullptr);
+}
+
+void get_ip(const Call& call) {
+  set_result(call, LinuxShell::MacId::GetIp().c_str());
+}
+
+Display* display() {
   static Display* const display = XOpenDisplay(nullptr);
-  const Window window = XCreateSimpleWindow(display, DefaultRootWindow(display),
-                                            10, 20, 100, 80, 0, 0, 0);
-  XStoreName(display, window, "test window");
-  XMapWindow(display, window);
-  XSync(display, False);
+  return display;
+}
+
+// createWindow(x, y, width, height, border, parent): shows it.
+void create_window(const Call& call) {
+  const Window parent = read_uint32(call, 5);
+  const Window window = XCreateSimpleWindow(
+      display(), parent == None ? DefaultRootWindow(display()) : parent,
+      read_int32(call, 0), read_int32(call, 1), read_uint32(call, 2),
+      read_uint32(call, 3), read_uint32(call, 4), 0, 0);
+  XStoreName(display(), window, "test window");
+  XMapWindow(display(), window);
+  XSync(display(), False);
   set_result(call, static_cast<double>(window));
+}
+
+// What operations on a window return, by their names.
+void results(const Call& call) {
+  const Window window = read_uint32(call, 0);
+  const auto place = [&](unsigned flags) {
+    return XWindow::SetWindowPos(window, 0, 1, 2, 3, 4, flags);
+  };
+  int unused = 0;
+  set_result(
+      call,
+      {{"fullScreen", XWindow::IsInFullScreen()},
+       {"place", place(0)},
+       {"move", place(1)},
+       {"resize", place(2)},
+       {"neither", place(3)},
+       {"hide", XWindow::ShowWindow(window, 0)},
+       {"maximise", XWindow::ShowWindow(window, 3)},
+       {"show", XWindow::ShowWindow(window, 5)},
+       {"other", XWindow::ShowWindow(window, 6)},
+       {"find", XWindow::GetWindowRect(window, unused, unused, unused, unused)},
+       {"screen", XWindow::GetDisplayWindowRect(unused, unused)}});
+}
+
+// maximise(window): the message that watchers of the root's children receive.
+void maximise(const Call& call) {
+  XSelectInput(display(), DefaultRootWindow(display()), SubstructureNotifyMask);
+  XSync(display(), True);
+  XWindow::ShowWindow(read_uint32(call, 0), 3);
+  XEvent event{};
+  XNextEvent(display(), &event);
+  XClientMessageEvent& message = event.xclient;
+  const long* const data = message.data.l;
+  Atom atoms[] = {message.message_type, static_cast<Atom>(data[1]),
+                  static_cast<Atom>(data[2])};
+  char* names[std::size(atoms)] = {};
+  XGetAtomNames(display(), atoms, std::size(atoms), names);
+  char text[200] = {};
+  std::snprintf(text, sizeof(text), "%d %lu %d %s %ld %s %s %ld %ld",
+                message.type, message.window, message.format, names[0], data[0],
+                names[1], names[2], data[3], data[4]);
+  set_result(call, text);
 }
 
 // What is allocated beside the script engine's own heap.
@@ -58,10 +112,14 @@ void bytes_in_use(const Call& call) {
 }
 
 void register_functions(v8::Local<v8::Object> exports) {
-  NODE_SET_METHOD(exports, "complete", complete);
   NODE_SET_METHOD(exports, "queryFileExists",
                   KorvaneHelper::ExportQueryFileExists);
+  NODE_SET_METHOD(exports, "complete", complete);
+  NODE_SET_METHOD(exports, "compareNull", compare_null);
+  NODE_SET_METHOD(exports, "getIp", get_ip);
   NODE_SET_METHOD(exports, "createWindow", create_window);
+  NODE_SET_METHOD(exports, "results", results);
+  NODE_SET_METHOD(exports, "maximise", maximise);
   NODE_SET_METHOD(exports, "bytesInUse", bytes_in_use);
 }
 
