@@ -27,13 +27,12 @@ void complete(const Call& call) {
     return callback == "no holder" ? nullptr
                                    : new CallbackHolder(isolate, call[0]);
   };
-  const int results[] = {
-      KorvaneHelper::OnIsSSD(7, true, {1, 0, -1, INT_MAX}, holder()),
-      KorvaneHelper::OnGetDriveMediaType(-1, INT_MIN, holder()),
-      KorvaneHelper::OnGetDriveMediaType(0, 3, holder()),
-      KorvaneHelper::OnGetCpuList(7, kNames, holder()),
-      KorvaneHelper::OnGetAppList(7, {}, holder())};
-  for (const int result : results) set_result(call, result == 0);
+  int result = KorvaneHelper::OnIsSSD(7, true, {1, 0, -1, INT_MAX}, holder());
+  result |= KorvaneHelper::OnGetDriveMediaType(-1, INT_MIN, holder());
+  result |= KorvaneHelper::OnGetDriveMediaType(0, 3, holder());
+  result |= KorvaneHelper::OnGetCpuList(7, kNames, holder());
+  result |= KorvaneHelper::OnGetAppList(7, {}, holder());
+  set_result(call, result);
 }
 
 // compareNull(place): the string in this place is null.
