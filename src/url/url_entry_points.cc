@@ -52,20 +52,23 @@ long write_record(const UrlParts& parts, unsigned code_page, url_info_u& info) {
   return 0;
 }
 
-long parse(std::wstring_view url, unsigned code_page, url_info_u& info) {
-  if (url.empty()) return URL_E_UNSUPPORTED;
-  auto [fault, parts] = split_url(url);
-  if (fault != UrlFault::kNone) return URL_E_PARSE;
-  if (parts.type == SCHEMA_UNKNOWN) return URL_E_UNSUPPORTED;
-  if (is_decoded(parts.user, code_page) &&
-      is_decoded(parts.password, code_page)) {
-    return write_record(parts, code_page, info);
-  }
+long write_decoded(UrlParts parts, unsigned code_page, url_info_u& info) {
   ScratchText user;
   ScratchText password;
   parts.user = decoded(parts.user, code_page, user);
   parts.password = decoded(parts.password, code_page, password);
   return write_record(parts, code_page, info);
+}
+
+long parse(std::wstring_view url, unsigned code_page, url_info_u& info) {
+  if (url.empty()) return URL_E_UNSUPPORTED;
+  const auto [fault, parts] = split_url(url);
+  if (fault != UrlFault::kNone) return URL_E_PARSE;
+  if (parts.type == SCHEMA_UNKNOWN) return URL_E_UNSUPPORTED;
+  const bool is_plain = is_decoded(parts.user, code_page) &&
+                        is_decoded(parts.password, code_page);
+  return is_plain ? write_record(parts, code_page, info)
+                  : write_decoded(parts, code_page, info);
 }
 
 UrlParts parts_of(const url_info_u& info) {
