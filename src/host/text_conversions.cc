@@ -2,16 +2,15 @@
 
 #include <korvane/korvane_host.h>
 #include "text/ascii.h"
-#include "text/code_of.h"
 #include "text/iconv_conversion.h"
 #include "text/utf8.h"
 
 namespace {
 
-using qk::text::code_of;
 using qk::text::convert;
 using qk::text::decode_utf8;
 using qk::text::encode_utf8;
+using qk::text::is_plain;
 using qk::text::until_zero;
 
 struct CodePage {
@@ -76,19 +75,7 @@ std::wstring decode(std::string_view bytes, int code_page) {
   return decode_western(bytes);
 }
 
-// Whether `text` is the same in every encoding here: ASCII without a zero. No
-// early exit: the compiler looks at several code units at once.
-template <typename Unit>
-bool is_plain(std::basic_string_view<Unit> text) {
-  std::uint32_t seen = 0;
-  unsigned zeros = 0;
-  for (const Unit unit : text) {
-    seen |= code_of(unit);
-    zeros |= static_cast<unsigned>(unit == Unit(0));
-  }
-  return seen < 0x80 && zeros == 0;
-}
-
+// Plain text is the same in every encoding here.
 std::string to_utf8(std::wstring_view text) {
   if (is_plain(text)) return {text.begin(), text.end()};
   std::string utf8;

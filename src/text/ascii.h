@@ -17,6 +17,18 @@ constexpr bool is_ascii(std::basic_string_view<Unit> text) {
   return seen < 0x80;
 }
 
+// Whether `text` is ASCII without a zero.
+template <typename Unit>
+constexpr bool is_plain(std::basic_string_view<Unit> text) {
+  std::uint32_t seen = 0;
+  unsigned zeros = 0;  // no early exit, as above
+  for (const Unit unit : text) {
+    seen |= code_of(unit);
+    zeros |= static_cast<unsigned>(unit == Unit(0));
+  }
+  return seen < 0x80 && zeros == 0;
+}
+
 // The text up to its first zero.
 template <typename Unit>
 constexpr std::basic_string_view<Unit> until_zero(

@@ -188,7 +188,7 @@ bool read_optional_field(std::wstring_view field, const Fields& fields) {
     }
     return true;
   }
-  return !contains_nocase(text, "sources,"sv) || read_sources(field, fields);
+  return !contains_nocase(text, "sources,"sv) || read_sources(text, fields);
 }
 
 // Valid UTF-8 needs no converter.

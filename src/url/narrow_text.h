@@ -12,13 +12,13 @@
 namespace qk::url {
 
 // The bytes of `text` in the default narrow encoding, one per code unit, up to
-// the first zero. A view of `text` if that is ASCII, otherwise of `bytes`.
+// the first zero. A view of `text` if that is plain, otherwise of `bytes`.
 inline std::wstring_view narrow_bytes(std::wstring_view text,
                                       std::wstring& bytes) {
-  text = text::until_zero(text);
-  if (text::is_ascii(text)) return text;
+  if (text::is_plain(text)) return text;
   bytes.clear();
-  for (const char byte : wstring_2_string(std::wstring(text))) {
+  const std::wstring wide(text::until_zero(text));
+  for (const char byte : wstring_2_string(wide)) {
     bytes += static_cast<wchar_t>(text::code_of(byte));
   }
   return bytes;
