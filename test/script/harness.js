@@ -43,9 +43,9 @@ const runtime = [process.env.KORVANE_EMULATOR, process.execPath]
   .filter(Boolean);
 
 // What a script prints in a process of its own.
-function printed(script, options = {}) {
-  return execFileSync(runtime[0], [...runtime.slice(1), '-e', script],
-    Object.assign({ encoding: 'utf8' }, options));
+function printed(script, { options = [], env = process.env } = {}) {
+  return execFileSync(runtime[0], [...runtime.slice(1), ...options, '-e',
+    script], { encoding: 'utf8', env });
 }
 
 // A folder that goes with the process.

@@ -3,11 +3,16 @@
 // The module loaded again and in worker threads, by runtimes that have them.
 // Each case is a script of its own, in a process of its own.
 
-const { spawnSync } = require('child_process');
-const { assert, runtime, test } = require('./harness');
+const { assert, printed, test } = require('./harness');
 
+// Runtimes differ in what they need, and in whether they can refuse modules
+// that are not for several contexts.
 const options = process.versions.modules === '64'
   ? ['--experimental-worker'] : [];
+if (process.allowedNodeEnvironmentFlags.has('--force-context-aware')) {
+  options.push('--force-context-aware');
+}
+
 const start = `
   const { Worker, parentPort } = require('worker_threads');
   const post = (message) => parentPort.postMessage(message);
@@ -17,28 +22,24 @@ const start = `
     return target.exports;
   };
   const works = (helper) => Object.keys(helper).length === 163 &&
-    helper.getFileVersion() === '1.0.0.1' && helper.System('echo x') === 'x\\n';
+    helper.System('echo x') === 'x\\n';
   // The messages of a worker that evaluates code behind this start.
-  const inWorker = (code, onMessage = () => {}) => new Promise((resolve) => {
+  const inWorker = (code) => new Promise((resolve) => {
     const worker = new Worker(start + code, { eval: true });
     const messages = [];
     worker.on('message', (message) => {
       messages.push(message);
-      onMessage(worker);
+      if (message === 'stop') worker.terminate();
     });
     worker.on('exit', () => resolve(messages));
   });`;
 
 // Wants a script, which may await, to return a list.
-function returns(want, code, ...more) {
-  const script = `const start = ${JSON.stringify(start)};
-    ${start}
-    (async () => { ${code} })().then((list) => console.log(list.join()));`;
-  const { stdout, stderr } = spawnSync(runtime[0],
-    [...runtime.slice(1), ...options, ...more, '-e', script],
-    { encoding: 'utf8' });
-  assert.strictEqual(stdout, `${want}\n`, stderr);
-}
+const returns = (want, code) => assert.strictEqual(printed(`
+  const start = ${JSON.stringify(start)};
+  ${start}
+  (async () => { ${code} })().then((list) => console.log(list.join()));`,
+{ options }), `${want}\n`);
 
 test('it works in workers, and loads again in the main thread', () => returns(
   'true,true,true,true', `
@@ -56,15 +57,9 @@ test('it works in several workers at a time', () => returns(
   return Promise.all([1, 2, 3, 4].map(() => inWorker(busy)));`));
 
 test('a worker that is stopped inside the module stops alone', () => returns(
-  '1,true', `
+  'stop,true', `
   const stopped = await inWorker(\`
-    const forever = { toString() { post(1); for (;;); } };
+    const forever = { toString() { post('stop'); for (;;); } };
     try { load().isPingHostValid(forever); } catch (e) { post(2); }
-    finally { post(3); } post(4);\`, (worker) => worker.terminate());
+    finally { post(3); } post(4);\`);
   return [stopped, works(load())];`));
-
-test('it loads where only modules for contexts may', () => {
-  const option = '--force-context-aware';
-  if (!process.allowedNodeEnvironmentFlags.has(option)) return;
-  returns('true', 'return [works(load())];', option);
-});

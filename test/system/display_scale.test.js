@@ -13,34 +13,34 @@ function on(screen, expression) {
       JSON.stringify(${expression})`], { encoding: 'utf8' }));
 }
 
-const both = '[m.getMonitorDPIFactor(), m.getSysDPIFactor()]';
-
 test('the factor is the screen\'s scale, truncated to two places', () => {
-  assert.deepStrictEqual(on('2560x1440x24 -dpi 128', both), [1.33, 1.33]);
-  assert.deepStrictEqual(on('1280x1024x24 -dpi 72', both), [0.74, 0.74]);
-  assert.deepStrictEqual(on('1000x1000x24 -dpi 100', both), [1.04, 1.04]);
-  // No physical width.
-  assert.deepStrictEqual(on('640x480x24 -dpi 100000', both), [1, 1]);
+  const rows = [
+    ['2560x1440x24 -dpi 128', 1.33],
+    ['1280x1024x24 -dpi 72', 0.74],
+    ['1000x1000x24 -dpi 100', 1.04],
+    ['640x480x24 -dpi 100000', 1],  // no physical width
+  ];
+  for (const [screen, factor] of rows) {
+    assert.deepStrictEqual(on(screen,
+      '[m.getMonitorDPIFactor(), m.getSysDPIFactor()]'), [factor, factor]);
+  }
 });
 
 test('every call leaves one connection open, until the server has no more',
   () => {
     const count = 'require("fs").readdirSync("/proc/self/fd").length';
-    const [before, after, factor, size] = on('1920x1080x24 -dpi 192',
-      `[${count}, (${both}, ${count}),
-        (new Array(300).fill().map(m.getSysDPIFactor), m.getMonitorDPIFactor()),
-        m.getDisplayWindowRect()]`);
-    assert.strictEqual(after - before, 2);
-    assert.deepStrictEqual([factor, size], [1, { width: 0, height: 0 }]);
+    assert.deepStrictEqual(on('1920x1080x24 -dpi 192', `[
+      -${count} + (m.getSysDPIFactor(), ${count}),
+      (new Array(300).fill().map(m.getSysDPIFactor), m.getMonitorDPIFactor()),
+      m.getDisplayWindowRect()]`), [1, 1, { width: 0, height: 0 }]);
   });
 
 test('setDefaultDPI sets the reference', () => {
   const rows = [
     // the reference, the factor on a screen of 96 dots per inch
-    ['120', 0.8], ['120.9', 0.8], ['"120"', 0.8], ['[120]', 0.8], ['true', 96],
+    ['120.9', 0.8], ['"120"', 0.8], ['[120]', 0.8], ['true', 96],
     ['0', 1], ['-120', 1], ['0.9', 1], ['NaN', 1], ['"x"', 1], ['', 1],
-    ['Symbol()', 1], ['-Infinity', 1], ['-1e300', 1],
-    ['{valueOf() { throw 1; }}', 1],
+    ['Symbol()', 1], ['-1e300', 1], ['{valueOf() { throw 1; }}', 1],
     ['Infinity', 0], ['2 ** 31', 0], ['4294967296 + 120', 0],
   ];
   const factors = rows.map(([reference]) => `(m.setDefaultDPI(96),

@@ -5,30 +5,21 @@
 // shows which name was looked up.
 
 const fs = require('fs');
-const path = require('path');
 const { execFileSync } = require('child_process');
-const { assert, check, printed, temporaryFolder, test } =
-  require('../script/harness');
+const { check, test } = require('../script/harness');
 
 const longest = 'a'.repeat(8181);
 const shorter = 'b'.repeat(8180);
 
-const folder = temporaryFolder();
-const replaced = {
-  hosts: ['127.0.0.1 localhost', '10.0.0.1 known undefined null HTTP: xhttp:',
-    '10.0.0.6 other?http: other?https: known?https: https: known\\a',
-    `10.0.0.9 ${longest}`, `10.0.0.10 ${shorter}`],
-  'resolv.conf': ['nameserver 127.0.0.1', 'options timeout:5 attempts:2'],
-  'nsswitch.conf': ['hosts: files dns'],
-};
-// A copy of /etc, which may lack these files or link them to elsewhere.
-const etc = path.join(folder, 'etc');
-execFileSync('cp', ['-a', '/etc', etc]);
-for (const [name, lines] of Object.entries(replaced)) {
-  execFileSync('rm', ['-f', path.join(etc, name)]);
-  fs.writeFileSync(path.join(etc, name), `${lines.join('\n')}\n`);
-}
-execFileSync('mount', ['--bind', etc, '/etc']);
+execFileSync('mount', ['-t', 'tmpfs', 'tmpfs', '/etc']);
+fs.writeFileSync('/etc/hosts', `127.0.0.1 localhost
+10.0.0.1 known undefined null HTTP: xhttp:
+10.0.0.6 other?http: other?https: known?https: https: known\\a
+10.0.0.9 ${longest}
+10.0.0.10 ${shorter}
+`);
+fs.writeFileSync('/etc/resolv.conf', 'nameserver 127.0.0.1\n');
+fs.writeFileSync('/etc/nsswitch.conf', 'hosts: files dns\n');
 
 const reaches = (want, ...urls) => urls.forEach((url) => (
   check('isPingHostValid', [url], want)));
@@ -38,29 +29,14 @@ test('the host file answers without a network', () => {
   reaches(0, 'unknown', 'dns.test');
 });
 
-execFileSync('ip', ['link', 'set', 'lo', 'up']);
-// It returns once it serves, and ends with the namespace.
-execFileSync('dnsmasq', ['--conf-file=/dev/null', '--user=root', '--no-resolv',
-  '--no-hosts', '--listen-address=127.0.0.1', '--bind-interfaces',
-  '--host-record=dns.test,10.1.2.3', '--address=/#/',
-  `--pid-file=${folder}/pid`]);
-
 test('a name server answers', () => {
+  execFileSync('ip', ['link', 'set', 'lo', 'up']);
+  // It returns once it serves, and ends with the namespace.
+  execFileSync('dnsmasq', ['--conf-file=/dev/null', '--user=', '--no-resolv',
+    '--no-hosts', '--listen-address=127.0.0.1', '--bind-interfaces',
+    '--host-record=dns.test,10.1.2.3', '--address=/#/', '--pid-file']);
   reaches(1, 'dns.test', 'http://dns.test/x', 'DNS.TEST');
   reaches(0, 'other.test');
-});
-
-test('a name server that does not answer is waited for', () => {
-  const server = Number(fs.readFileSync(`${folder}/pid`, 'utf8'));
-  process.kill(server, 'SIGSTOP');
-  assert.strictEqual(printed(`
-    const helper = require(process.env.KORVANE_MODULE);
-    const begin = Date.now();
-    const result = helper.isPingHostValid("a.test");
-    console.log(result, Date.now() - begin >= 1000);`,
-  { env: Object.assign({ RES_OPTIONS: 'timeout:1 attempts:1' }, process.env) }),
-  '0 true\n');
-  process.kill(server, 'SIGCONT');
 });
 
 test('one scheme at the start is removed, case-sensitively', () => {
@@ -83,13 +59,10 @@ test('the path is cut off, and nothing else', () => {
     'known?x', 'known#x', ' known');
 });
 
-test('any value is read as a string', () => {
+test('any value is read as a string, cut after 8,181 bytes', () => {
   reaches(1, null, undefined, ['known'], 'known\0x', '10.9.8.7', 1.5);
   reaches(0, Symbol('known'), NaN);
   check('isPingHostValid', [], 1);
-});
-
-test('the string is cut after 8,181 bytes', () => {
   reaches(1, longest, `${longest}a`, `${longest}/`);
   reaches(0, longest.slice(1));
   reaches(1, `${shorter}é`);       // a character that does not fit is left out
