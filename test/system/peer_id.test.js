@@ -27,10 +27,11 @@ const add = (name, mac, address) => `
   ${address ? `ip addr add ${address} dev ${name}` : ''}`;
 const eth0 = add('eth0', '0a:1b:2c:3d:4e:5f', '10.0.0.1/24');
 
+const peerId = 'console.log(process.pid); console.log(getPeerID())';
+
 // getPeerID writes what it finds, and a trace.
 function finds(want, id, setup, ...launcher) {
-  const { stdout, stderr } = run(setup,
-    'console.log(process.pid); console.log(getPeerID())', ...launcher);
+  const { stdout, stderr } = run(setup, peerId, ...launcher);
   const [pid, ...lines] = stdout.split('\n');
   assert.strictEqual(stderr + lines.join('\n'),
     `${want}${pid} src/korvane_helper 1278 GetPeerID ${id}\r\n${id}\n`);
@@ -52,7 +53,7 @@ test('a failure is printed with its reason and place', () => {
   const strace = ['strace', '-o', '/dev/null', '-e'];
   finds('socket: Too many open files\n', '007V', lo, ...strace,
     'inject=socket:error=EMFILE');
-  const { stderr } = run(lo, 'getPeerID()', 'strace', '-e', 'trace=ioctl');
+  const { stderr } = run(lo, peerId, 'strace', '-e', 'trace=ioctl');
   const first = stderr.split('\n').findIndex((line) => /IFCONF/.test(line)) + 1;
   const found = 'interface num = 1\n\ndevice name: lo\n';
   [['', 170], [found, 130], [found, 162]].forEach(([printed, line], i) => finds(
