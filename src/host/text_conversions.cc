@@ -56,7 +56,6 @@ constexpr wchar_t kWestern[] = {
 // Needs no converter and reads every byte.
 std::wstring decode_western(std::string_view bytes) {
   std::wstring wide;
-  wide.reserve(bytes.size());
   for (const char unit : bytes) {
     const auto byte = static_cast<unsigned char>(unit);
     wide += byte >= 0x80 && byte < 0xA0 ? kWestern[byte - 0x80]

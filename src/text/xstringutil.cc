@@ -148,7 +148,6 @@ std::string DataToHexString(const char* data, int len,
                             const std::string& separator) {
   const std::string_view bytes = bytes_of(data, len);
   std::string text;
-  text.reserve(bytes.size() * (2 + separator.size()));
   for (const char byte : bytes) {
     append_digits(text, byte, kLowerHexDigits);
     text += separator;
@@ -166,7 +165,6 @@ std::string EscapePath(const char* data, int len) {
 
 std::string UnescapeString(const std::string& s) {
   std::string text;
-  text.reserve(s.size());
   for (std::size_t i = 0; i < s.size(); ++i) {
     if (s[i] != '%') {
       text += s[i] == '+' ? ' ' : s[i];

@@ -126,7 +126,6 @@ std::string char2hex(unsigned char byte) {
 
 std::string utf8_2_hexstr(const std::string& utf8) {
   std::string text;
-  text.reserve(utf8.size());
   for (const char unit : utf8) {
     const auto byte = static_cast<unsigned char>(unit);
     text += byte < 0x80 ? std::string(1, unit) : '%' + char2hex(byte);

@@ -119,7 +119,6 @@ bool decode_base32(const char* text, unsigned long length, std::string& out) {
 std::string encode_url(const void* bytes, unsigned long length) {
   const auto* in = static_cast<const unsigned char*>(bytes);
   std::string text;
-  text.reserve(3 * length + 1);
   for (unsigned long i = 0; i < length; ++i) {
     if (std::isalpha(in[i]) != 0) {
       text += static_cast<char>(in[i]);
