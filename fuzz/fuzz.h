@@ -7,9 +7,6 @@
 
 #include "unit/exact_copy.h"
 
-using Bytes = std::string;
-using Text = std::wstring;
-
 // Checks the properties of one format, and may change the input; each target
 // defines it.
 void check(Bytes& input);

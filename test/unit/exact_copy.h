@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+using Bytes = std::string;
+using Text = std::wstring;
+
 template <typename Unit>
 class ExactCopy {
  public:
@@ -23,8 +26,5 @@ class ExactCopy {
   std::vector<Unit> units_;
   std::size_t size_;
 };
-
-template <typename Unit>
-ExactCopy(const std::basic_string<Unit>&) -> ExactCopy<Unit>;
 
 #endif  // KORVANE_TEST_UNIT_EXACT_COPY_H_
