@@ -10,25 +10,25 @@ const { execFileSync } = require('child_process');
 
 const { KORVANE_BUILD: build, KORVANE_NODE: node } = process.env;
 const root = fs.mkdtempSync(path.join(os.tmpdir(), 'package-'));
-fs.chmodSync(root, 0o755);
 process.on('exit', () => fs.rmSync(root, { recursive: true }));
 
 const run = (command, args, options) => execFileSync(command, args,
   { encoding: 'utf8', stdio: 'pipe', ...options });
 
+// Other users may read it.
 function makeFolder() {
   const folder = fs.mkdtempSync(path.join(root, 'x'));
-  fs.chmodSync(folder, 0o755);
+  run('chmod', ['755', root, folder]);
   return folder;
 }
 
 function makePackage() {
   const folder = makeFolder();
-  run(path.join(__dirname, '../../script/stage'), [folder]);
   const prebuilds = path.join(folder, `prebuilds/linux-${process.arch}`);
   const abi = run(node, ['-p', 'process.versions.modules']).trim();
-  fs.mkdirSync(prebuilds, { recursive: true });
-  run('cp', ['-r', path.join(build, 'module'), `${prebuilds}/abi-${abi}`]);
+  run(path.join(__dirname, '../../script/stage'), [folder]);
+  fs.cpSync(path.join(build, 'module'), path.join(prebuilds, `abi-${abi}`),
+    { recursive: true });
   return folder;
 }
 

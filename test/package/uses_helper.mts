@@ -6,16 +6,11 @@ const count: number = Object.keys(helper).length;
 const place: Rectangle | undefined = undefined;
 const enabled: boolean | undefined = helper.enableWindow(0, true);
 helper.attachClipBoard((one, links) => links.concat(one.toFixed()));
-helper.printEtwLog('any', 1, {});
 console.log([count, System('echo hello'), enabled, place, file, include].join());
 
 // @ts-expect-error: the name is misspelt on purpose
 void helper.rebootMachine;
-// @ts-expect-error: not a string
-System(42);
 // @ts-expect-error: too few arguments
 helper.setWindowPos(1, 0, 2, 3, 4, 5);
-// @ts-expect-error: the callback's first parameter is a number
-helper.attachClipBoard((one: string) => one);
 // @ts-expect-error: 1 or 0
 export const isKnown: boolean = helper.isPingHostValid('127.0.0.1');
