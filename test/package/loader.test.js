@@ -8,18 +8,18 @@ const { makeFolder, makePackage, node, run } = require('./packages');
 
 const { arch } = process;
 const made = makePackage();
-const builds = `prebuilds/linux-${arch}`;
+const builds = `./prebuilds/linux-${arch}`;
 const own = run('ls', [builds], { cwd: made }).trim();
-const file = `./${builds}/${own}/KorvaneHelper.node`;
+const file = `${builds}/${own}/KorvaneHelper.node`;
 const noBuild = (abi) => (
-  `no build for ABI ${abi} in ./${builds}, which holds ${own}`);
-const noFile = 'cannot open shared object file: No such file or directory';
+  `no build for ABI ${abi} in ${builds}, which holds ${own}`);
+const unreadable = 'cannot open shared object file:';
+const again = 'install the package again';
 
-// What is done to the package and to the process; the problem; what helps.
+// What is done to the package; what the process says that it is; the problem;
+// what helps.
 const rows = [
   ['', { platform: 'darwin' }, `this is darwin on ${arch}`,
-    'use linux on x64 or arm64'],
-  ['', { arch: 'riscv64' }, 'this is linux on riscv64',
     'use linux on x64 or arm64'],
   ['', { versions: { electron: '30.0.1', modules: '123', node: '20.9.0' } },
     `this is Electron 30.0.1, ${noBuild(123)}`,
@@ -27,21 +27,15 @@ const rows = [
   ['', { versions: { modules: '120', node: '21.0.0' } },
     `this is Node.js 21.0.0, ${noBuild(120)}`,
     'use Node.js 8, 10, 18, 20, 22, 24, 26'],
-  ['rm -r prebuilds', { versions: { modules: '57', node: '8.17.0' } },
-    `no build for ABI 57 in ./${builds} (ENOENT)`, `run "script/package ` +
-      `--arch ${arch} 8" in a checkout and install the package again`],
+  ['rm -r prebuilds', {}, `no build for ABI ${own.slice(4)} in ${builds} (`,
+    `run "script/package --arch ${arch} N" in a checkout and ${again}`],
   ['mkdir script; touch script/test',
     { versions: { modules: '0', node: '22.9.0' } }, noBuild(0),
     'run "script/test --runtime 22"'],
-  ['mkdir script; touch script/test',
-    { versions: { modules: '0', node: '8.17.0' } }, noBuild(0),
-    'run "script/demo"'],
-  [`truncate -s 3 ${file}`, {}, `${file}: file too short`,
-    'install the package again'],
-  [`chmod 0 ${file}`, {},
-    `${file}: cannot open shared object file: Permission denied`,
+  [`truncate -s 3 ${file}`, {}, `${file}: file too short`, again],
+  [`chmod 0 ${file}`, {}, `${file}: ${unreadable} Permission denied`,
     'change its permissions'],
-  [`sed -i s/libX11.so.6/libX11.so.9/ ${file}`, {}, `libX11.so.9: ${noFile}`,
+  [`sed -i s/libX11.so.6/libX11.so.9/ ${file}`, {}, `libX11.so.9: ${unreadable}`,
     'run "apt-get install libx11-6"'],
   [`sed -i s/GLIBC_2.14/GLIBC_2.99/ ${file}`, {},
     "libc.so.6: version `GLIBC_2.99' not found",
@@ -49,26 +43,25 @@ const rows = [
 ];
 
 // Loads the package, not as root, who can read any file.
-const load = (folder, changes) => run(node, ['-e', `
+const load = (changes) => `
   if (process.getuid() === 0) process.setuid(65534);
-  const changes = ${JSON.stringify(changes)};
-  for (const name of Object.keys(changes)) {
-    Object.defineProperty(process, name, { value: changes[name] });
+  for (const [name, value] of Object.entries(${JSON.stringify(changes)})) {
+    Object.defineProperty(process, name, { value });
   }
   try {
-    require('${folder}');
+    require(process.cwd());
   } catch (error) {
-    console.log(error.message, Boolean(error.cause));
-  }`]).replaceAll(folder, '.');
+    console.log(error.message);
+  }`;
 
 for (const [change, changes, problem, advice] of rows) {
   test(problem, () => {
-    const folder = makeFolder();
-    run('sh', ['-ec', `cp -r ${made}/* .; ${change}`], { cwd: folder });
-    const [first, second] = load(folder, changes).split('\n');
+    const cwd = makeFolder();
+    run('sh', ['-ec', `cp -r ${made}/* .; ${change}`], { cwd });
+    const [first, second] = run(node, ['-e', load(changes)], { cwd })
+      .replaceAll(cwd, '.').replace(/ \d+" in/, ' N" in').split('\n');
     assert(first.startsWith('KorvaneHelper cannot be loaded: '), first);
     assert(first.includes(problem), first);
-    const hasCause = Object.keys(changes).length === 0;
-    assert.strictEqual(second, `To mend this, ${advice}. ${hasCause}`);
+    assert.strictEqual(second, `To mend this, ${advice}.`);
   });
 }

@@ -43,10 +43,8 @@ const runtime = [process.env.KORVANE_EMULATOR, process.execPath]
   .filter(Boolean);
 
 // What a script prints in a process of its own.
-function printed(script, { options = [], env = process.env } = {}) {
-  return execFileSync(runtime[0], [...runtime.slice(1), ...options, '-e',
-    script], { encoding: 'utf8', env });
-}
+const printed = (script) => execFileSync(runtime[0],
+  [...runtime.slice(1), '-e', script], { encoding: 'utf8' });
 
 // A folder that goes with the process.
 function temporaryFolder() {

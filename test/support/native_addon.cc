@@ -1,8 +1,5 @@
 // An addon with what scripts cannot reach: functions without a name, and
-// results that the module drops. It also makes windows, and knows what memory
-// is in use.
-#include <malloc.h>
-
+// results that the module drops. It also makes windows.
 #include <climits>
 #include <cstdio>
 
@@ -105,11 +102,6 @@ void maximise(const Call& call) {
   set_result(call, text);
 }
 
-// What is allocated beside the script engine's own heap.
-void bytes_in_use(const Call& call) {
-  set_result(call, static_cast<double>(mallinfo2().uordblks));
-}
-
 void register_functions(v8::Local<v8::Object> exports) {
   NODE_SET_METHOD(exports, "queryFileExists",
                   KorvaneHelper::ExportQueryFileExists);
@@ -119,7 +111,6 @@ void register_functions(v8::Local<v8::Object> exports) {
   NODE_SET_METHOD(exports, "createWindow", create_window);
   NODE_SET_METHOD(exports, "results", results);
   NODE_SET_METHOD(exports, "maximise", maximise);
-  NODE_SET_METHOD(exports, "bytesInUse", bytes_in_use);
 }
 
 }  // namespace
