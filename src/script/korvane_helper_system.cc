@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -8,9 +9,8 @@
 static int saturated(double value) {
   using Limits = std::numeric_limits<int>;
   if (std::isnan(value)) return 0;
-  if (value <= Limits::min()) return Limits::min();
-  if (value >= Limits::max()) return Limits::max();
-  return static_cast<int>(value);
+  return static_cast<int>(
+      std::clamp<double>(value, Limits::min(), Limits::max()));
 }
 
 void KorvaneHelper::GetMonitorDPIFactor(const Call& call) {
