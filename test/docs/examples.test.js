@@ -17,13 +17,13 @@ const { build, makeFolder, makePackage, node, run } =
 
 const cwd = makeFolder();
 const prefix = makeFolder();
-fs.mkdirSync(path.join(cwd, 'node_modules'));
-fs.symlinkSync(makePackage(), path.join(cwd, 'node_modules/korvane-helper'));
-run('cmake', ['--install', build, '--prefix', prefix]);
 const env = { ...process.env,
-  PATH: `${path.dirname(node)}:${process.env.PATH}`,
-  PKG_CONFIG_PATH: path.dirname(
-    run('find', [prefix, '-name', 'korvane_links.pc'])) };
+  PATH: `${path.dirname(node)}:${process.env.PATH}` };
+const shell = (text) => run('bash', ['-euo', 'pipefail', '-c', text],
+  { cwd, env });
+shell(`mkdir node_modules; ln -s ${makePackage()} node_modules/korvane-helper
+  cmake --install ${build} --prefix ${prefix}`);
+env.PKG_CONFIG_PATH = path.dirname(shell(`find ${prefix} -name '*.pc'`));
 
 const compile = '-Wall -Wextra -Werror -o program ' +
   '$(pkg-config --cflags --libs korvane_links) && ./program';
@@ -34,24 +34,17 @@ const commands = {
   cpp: `g++ program.cpp -std=c++17 ${compile}`,
 };
 
-const write = (name, text) => fs.writeFileSync(path.join(cwd, name), text);
-const shell = (text) => run('bash', ['-euo', 'pipefail', '-c', text],
-  { cwd, env });
-
 function runExample(language, name, text, printed) {
   const line = "const helper = require('korvane-helper');\n";
-  if (name) {
-    write(name, text);
-  } else if (language in commands) {
-    write(`program.${language}`,
+  const isProgram = !name && language in commands;
+  if (name || isProgram) {
+    fs.writeFileSync(path.join(cwd, name || `program.${language}`),
       language === 'js' && !text.startsWith(line) ? line + text : text);
-    assert.strictEqual(shell(commands[language]), printed);
-  } else if (language === 'sh' && printed) {
-    assert(shell(text).endsWith(printed));
   }
+  if (isProgram) assert.strictEqual(shell(commands[language]), printed);
+  if (language === 'sh' && printed) assert(shell(text).endsWith(printed));
 }
 
-// A block with a language, and the next one if that has none.
 const fence =
   /^```(\w+) ?(.*)\n([^]*?)^```$(?:(?!^```)[^])*(?:^```\n([^]*?)^```$)?/gm;
 

@@ -3,6 +3,7 @@
 // What require('korvane-helper') says where no module can be loaded.
 
 const assert = require('assert');
+const { spawnSync } = require('child_process');
 const { test } = require('node:test');
 const { makeFolder, makePackage, node, run } = require('./packages');
 
@@ -10,10 +11,10 @@ const { arch } = process;
 const made = makePackage();
 const builds = `./prebuilds/linux-${arch}`;
 const own = run('ls', [builds], { cwd: made }).trim();
+const [major] = run(node, ['-p', 'process.versions.node']).split('.');
 const file = `${builds}/${own}/KorvaneHelper.node`;
 const noBuild = (abi) => (
   `no build for ABI ${abi} in ${builds}, which holds ${own}`);
-const unreadable = 'cannot open shared object file:';
 const again = 'install the package again';
 
 // What is done to the package; what the process says that it is; the problem;
@@ -28,39 +29,31 @@ const rows = [
     `this is Node.js 21.0.0, ${noBuild(120)}`,
     'use Node.js 8, 10, 18, 20, 22, 24, 26'],
   ['rm -r prebuilds', {}, `no build for ABI ${own.slice(4)} in ${builds} (`,
-    `run "script/package --arch ${arch} N" in a checkout and ${again}`],
+    `run "script/package --arch ${arch} ${major}" in a checkout and ${again}`],
   ['mkdir script; touch script/test',
     { versions: { modules: '0', node: '22.9.0' } }, noBuild(0),
     'run "script/test --runtime 22"'],
   [`truncate -s 3 ${file}`, {}, `${file}: file too short`, again],
-  [`chmod 0 ${file}`, {}, `${file}: ${unreadable} Permission denied`,
-    'change its permissions'],
-  [`sed -i s/libX11.so.6/libX11.so.9/ ${file}`, {}, `libX11.so.9: ${unreadable}`,
+  [`sed -i s/libX11.so.6/libX11.so.9/ ${file}`, {}, 'libX11.so.9: cannot open',
     'run "apt-get install libx11-6"'],
   [`sed -i s/GLIBC_2.14/GLIBC_2.99/ ${file}`, {},
     "libc.so.6: version `GLIBC_2.99' not found",
     'use Debian 12 or a newer system with glibc'],
 ];
 
-// Loads the package, not as root, who can read any file.
 const load = (changes) => `
-  if (process.getuid() === 0) process.setuid(65534);
   for (const [name, value] of Object.entries(${JSON.stringify(changes)})) {
     Object.defineProperty(process, name, { value });
   }
-  try {
-    require(process.cwd());
-  } catch (error) {
-    console.log(error.message);
-  }`;
+  require(process.cwd());`;
 
 for (const [change, changes, problem, advice] of rows) {
   test(problem, () => {
     const cwd = makeFolder();
     run('sh', ['-ec', `cp -r ${made}/* .; ${change}`], { cwd });
-    const [first, second] = run(node, ['-e', load(changes)], { cwd })
-      .replaceAll(cwd, '.').replace(/ \d+" in/, ' N" in').split('\n');
-    assert(first.startsWith('KorvaneHelper cannot be loaded: '), first);
+    const { stderr } = spawnSync(node, ['-e', load(changes)], { cwd });
+    const [, first, second] = stderr.toString().replaceAll(cwd, '.')
+      .match(/Error: KorvaneHelper cannot be loaded: (.*)\n(.*)/);
     assert(first.includes(problem), first);
     assert.strictEqual(second, `To mend this, ${advice}.`);
   });

@@ -4,9 +4,9 @@ import { file, include } from 'korvane-helper/path';
 
 const count: number = Object.keys(helper).length;
 const place: Rectangle | undefined = undefined;
-const enabled: boolean | undefined = helper.enableWindow(0, true);
+const found: boolean | undefined = helper.enableWindow(0, true);
 helper.attachClipBoard((one, links) => links.concat(one.toFixed()));
-console.log([count, System('echo hello'), enabled, place, file, include].join());
+console.log([count, System('echo hello'), found, place, file, include].join());
 
 // @ts-expect-error: the name is misspelt on purpose
 void helper.rebootMachine;

@@ -7,11 +7,10 @@ const { createHash } = require('crypto');
 const fs = require('fs');
 const path = require('path');
 const vm = require('vm');
-const {
-  assert, helper, printed, temporaryFolder, test,
-} = require('./harness');
+const { assert, enterTemporaryFolder, helper, printed, test } =
+  require('./harness');
 
-process.chdir(temporaryFolder());
+enterTemporaryFolder();
 
 const names = Object.keys(helper);
 const page = (name) => fs.readFileSync(

@@ -1,20 +1,17 @@
 'use strict';
 
 const fs = require('fs');
-const {
-  assert, check, helper, openDescriptors, temporaryFolder, test,
-} = require('./harness');
+const { assert, check, enterTemporaryFolder, helper, openDescriptors, test } =
+  require('./harness');
 
-process.chdir(temporaryFolder());
+enterTemporaryFolder();
 const descriptors = openDescriptors();
 
 test('System returns what the command prints, up to a zero byte', () => {
-  check('System', ['printf "中文 \\360\\237\\230\\200\\n"', 1], '中文 😀\n');
+  check('System', ['printf "中文 \\360\\237\\230\\200"', 1], '中文 😀');
   check('System', ['echo seen; echo unseen >&2; exit 3'], 'seen\n');
-  check('System', ['exec 1>&-'], '');
   check('System', ['printf "a\\0b"'], 'a');
   check('System', ['printf "a\\377b"'], 'a\ufffdb');
-  check('System', ['printf "%s" "$0"'], 'sh');
   check('System', ['echo a\0b'], 'a\n');
   check('System', [''], '');
   check('System', [new String('touch ran')], undefined);
@@ -22,16 +19,16 @@ test('System returns what the command prints, up to a zero byte', () => {
 });
 
 test('System cuts the command after 1,023 bytes', () => {
-  const head = '#'.repeat(1010) + '\necho ';
-  check('System', [`${head}1234567890`], '1234567\n');
+  const prints = (argument, want) => check('System',
+    [`${'#'.repeat(1010)}\necho ${argument}`], `${want}\n`);
+  prints('1234567890', '1234567');
   // A character that does not fit is left out whole.
-  check('System', [`${head}12345é`], '12345é\n');
-  check('System', [`${head}123456é`], '123456\n');
-  check('System', [`${head}12345😀`], '12345\n');
+  prints('12345é', '12345é');
+  prints('123456é', '123456');
+  prints('12345😀', '12345');
   // Three bytes hold half of it, which comes back as runtimes read it.
   const abi = Number(process.versions.modules);
-  const half = '\ufffd'.repeat(abi === 57 ? 1 : abi < 137 ? 3 : 0);
-  check('System', [`${head}1234😀`], `1234${half}\n`);
+  prints('1234😀', `1234${'\ufffd'.repeat(abi === 57 ? 1 : abi < 137 ? 3 : 0)}`);
 });
 
 test('System cuts the output after 20,479 bytes', () => {
@@ -54,14 +51,14 @@ test('System returns "" when the command cannot be started', () => {
 });
 
 test('commands have the standard streams of the process, no closed one', () => {
-  const streams = '/proc/self/fd/0 /proc/self/fd/2';
-  const own = streams.split(' ').map((link) => `${fs.readlinkSync(link)}\n`);
+  const links = 'readlink /proc/self/fd/0 /proc/self/fd/2';
+  const own = [0, 2].map((stream) => (
+    `${fs.readlinkSync(`/proc/self/fd/${stream}`)}\n`));
   const flags = () => [0, 1, 2].map((stream) => fs.readFileSync(
     `/proc/self/fdinfo/${stream}`, 'utf8').match(/flags:.*/)[0]).join();
   const before = flags();
-  check('System', [`readlink ${streams}`], own.join(''));
-  fs.writeFileSync('df', `#!/bin/sh\necho "$*"; readlink ${streams}`,
-    { mode: 0o755 });
+  check('System', [links], own.join(''));
+  fs.writeFileSync('df', `#!/bin/sh\necho "$*"; ${links}`, { mode: 0o755 });
   fs.writeFileSync('tmp.text', 'old'.repeat(10000));
   process.env.PATH = `.:${process.env.PATH}`;
   check('getLogicalDriveStrings', [1], undefined);
@@ -69,7 +66,7 @@ test('commands have the standard streams of the process, no closed one', () => {
     `-h\n${own.join('')}`);
   assert.strictEqual(flags(), before);
   fs.closeSync(0);
-  check('System', [`readlink ${streams}`], own[1]);
+  check('System', [links], own[1]);
   fs.openSync('/dev/null', 'r');
 });
 

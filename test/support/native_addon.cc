@@ -89,16 +89,16 @@ void maximise(const Call& call) {
   XWindow::ShowWindow(read_uint32(call, 0), 3);
   XEvent event{};
   XNextEvent(display(), &event);
-  XClientMessageEvent& message = event.xclient;
+  const XClientMessageEvent& message = event.xclient;
+  const auto name = [](auto atom) {
+    return XGetAtomName(display(), static_cast<Atom>(atom));
+  };
   const long* const data = message.data.l;
-  Atom atoms[] = {message.message_type, static_cast<Atom>(data[1]),
-                  static_cast<Atom>(data[2])};
-  char* names[std::size(atoms)] = {};
-  XGetAtomNames(display(), atoms, std::size(atoms), names);
   char text[200] = {};
   std::snprintf(text, sizeof(text), "%d %lu %d %s %ld %s %s %ld %ld",
-                message.type, message.window, message.format, names[0], data[0],
-                names[1], names[2], data[3], data[4]);
+                message.type, message.window, message.format,
+                name(message.message_type), data[0], name(data[1]),
+                name(data[2]), data[3], data[4]);
   set_result(call, text);
 }
 
