@@ -1,10 +1,10 @@
 // Text copied to a buffer of exactly its size, so that a sanitizer sees one
-// code unit read too far. Without one, digits follow that would count.
+// code unit read too far.
 #ifndef KORVANE_TEST_UNIT_EXACT_COPY_H_
 #define KORVANE_TEST_UNIT_EXACT_COPY_H_
 
+#include <memory>
 #include <string>
-#include <vector>
 
 using Bytes = std::string;
 using Text = std::wstring;
@@ -12,19 +12,16 @@ using Text = std::wstring;
 template <typename Unit>
 class ExactCopy {
  public:
-  explicit ExactCopy(const std::basic_string<Unit>& text) : size_(text.size()) {
-    units_.reserve(1);  // no null pointer
-    units_.assign(text.begin(), text.end());
-#ifndef KORVANE_SANITIZED
-    units_.resize(size_ + 8, Unit('A'));
-#endif
+  explicit ExactCopy(const std::basic_string<Unit>& text)
+      : units_(new Unit[text.size()]), size_(unsigned(text.size())) {
+    text.copy(units_.get(), text.size());
   }
-  const Unit* data() const { return units_.data(); }
-  unsigned size() const { return static_cast<unsigned>(size_); }
+  const Unit* data() const { return units_.get(); }
+  unsigned size() const { return size_; }
 
  private:
-  std::vector<Unit> units_;
-  std::size_t size_;
+  std::unique_ptr<Unit[]> units_;
+  unsigned size_;
 };
 
 #endif  // KORVANE_TEST_UNIT_EXACT_COPY_H_

