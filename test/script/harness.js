@@ -29,14 +29,11 @@ function check(name, args, want) {
     args.map((arg) => inspect(arg)).join(', ')}) returned ${got}`);
 }
 
-// The command that starts this runtime again: behind an emulator for another
-// architecture's.
-const runtime = [process.env.KORVANE_EMULATOR, process.execPath]
-  .filter(Boolean);
-
-// What a script prints in a process of its own.
-const printed = (script) => execFileSync(runtime[0],
-  [...runtime.slice(1), '-e', script], { encoding: 'utf8' });
+// What a script prints in a process of its own, behind an emulator where this
+// one is.
+const printed = (script) => execFileSync('sh', ['-c',
+  '$KORVANE_EMULATOR "$0" -e "$1"', process.execPath, script],
+{ encoding: 'utf8' });
 
 // One that goes with the process.
 function enterTemporaryFolder() {
@@ -48,6 +45,5 @@ function enterTemporaryFolder() {
 const openDescriptors = () => fs.readdirSync('/proc/self/fd').length;
 
 module.exports = {
-  assert, check, enterTemporaryFolder, helper, openDescriptors, printed,
-  runtime, test,
+  assert, check, enterTemporaryFolder, helper, openDescriptors, printed, test,
 };

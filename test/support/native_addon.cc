@@ -12,9 +12,6 @@
 
 namespace {
 
-const std::vector<std::wstring> kNames = {
-    L"Core", L"", L"中文", L"😀A", {0x00410042, 0x00430044, 0x0045}};
-
 // complete(callback): every completion, which nothing on this platform calls;
 // "no holder" and "no isolate" leave these out.
 void complete(const Call& call) {
@@ -24,10 +21,12 @@ void complete(const Call& call) {
     return callback == "no holder" ? nullptr
                                    : new CallbackHolder(isolate, call[0]);
   };
+  const std::vector<std::wstring> names = {
+      L"Core", L"", L"中文", L"😀A", {0x00410042, 0x00430044, 0x0045}};
   int result = KorvaneHelper::OnIsSSD(7, true, {1, 0, -1, INT_MAX}, holder());
   result |= KorvaneHelper::OnGetDriveMediaType(-1, INT_MIN, holder());
   result |= KorvaneHelper::OnGetDriveMediaType(0, 3, holder());
-  result |= KorvaneHelper::OnGetCpuList(7, kNames, holder());
+  result |= KorvaneHelper::OnGetCpuList(7, names, holder());
   result |= KorvaneHelper::OnGetAppList(7, {}, holder());
   set_result(call, result);
 }
@@ -66,20 +65,18 @@ void results(const Call& call) {
   const auto place = [&](unsigned flags) {
     return XWindow::SetWindowPos(window, 0, 1, 2, 3, 4, flags);
   };
-  int unused = 0;
-  set_result(
-      call,
-      {{"fullScreen", XWindow::IsInFullScreen()},
-       {"place", place(0)},
-       {"move", place(1)},
-       {"resize", place(2)},
-       {"neither", place(3)},
-       {"hide", XWindow::ShowWindow(window, 0)},
-       {"maximise", XWindow::ShowWindow(window, 3)},
-       {"show", XWindow::ShowWindow(window, 5)},
-       {"other", XWindow::ShowWindow(window, 6)},
-       {"find", XWindow::GetWindowRect(window, unused, unused, unused, unused)},
-       {"screen", XWindow::GetDisplayWindowRect(unused, unused)}});
+  int n = 0;
+  set_result(call, {{"fullScreen", XWindow::IsInFullScreen()},
+                    {"place", place(0)},
+                    {"move", place(1)},
+                    {"resize", place(2)},
+                    {"neither", place(3)},
+                    {"hide", XWindow::ShowWindow(window, 0)},
+                    {"maximise", XWindow::ShowWindow(window, 3)},
+                    {"show", XWindow::ShowWindow(window, 5)},
+                    {"other", XWindow::ShowWindow(window, 6)},
+                    {"find", XWindow::GetWindowRect(window, n, n, n, n)},
+                    {"screen", XWindow::GetDisplayWindowRect(n, n)}});
 }
 
 // maximise(window): the message that watchers of the root's children receive.
@@ -89,10 +86,10 @@ void maximise(const Call& call) {
   XWindow::ShowWindow(read_uint32(call, 0), 3);
   XEvent event{};
   XNextEvent(display(), &event);
-  const XClientMessageEvent& message = event.xclient;
   const auto name = [](auto atom) {
     return XGetAtomName(display(), static_cast<Atom>(atom));
   };
+  const XClientMessageEvent& message = event.xclient;
   const long* const data = message.data.l;
   char text[200] = {};
   std::snprintf(text, sizeof(text), "%d %lu %d %s %ld %s %s %ld %ld",

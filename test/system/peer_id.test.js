@@ -3,14 +3,14 @@
 // getPeerID and GetIp in network namespaces with interfaces made for each case.
 
 const { spawnSync } = require('child_process');
-const { assert, runtime, test } = require('../script/harness');
+const { assert, test } = require('../script/harness');
 
 // Sanitizers cannot look for leaks under strace.
 const env = Object.assign({}, process.env, { ASAN_OPTIONS: 'detect_leaks=0' });
 
 // Runs a shell setup, then a script behind a launcher.
 const run = (setup, script, ...launcher) => spawnSync('unshare', ['--net',
-  'sh', '-ec', `${setup}\nexec "$@"`, 'sh', ...launcher, ...runtime, '-e',
+  'sh', '-ec', `${setup}\nexec "$@"`, 'sh', ...launcher, process.execPath, '-e',
   `const { compareNull, getIp } = require(process.env.KORVANE_ADDON);
   const { getPeerID } = require(process.env.KORVANE_MODULE); ${script}`],
 { encoding: 'utf8', env });

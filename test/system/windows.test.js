@@ -4,7 +4,7 @@
 // under a window manager. The addon has what the module drops or does not bind.
 
 const { execFileSync } = require('child_process');
-const { assert, check, helper, openDescriptors, runtime, test } =
+const { assert, check, helper, openDescriptors, test } =
   require('../script/harness');
 const { createWindow, maximise, results } = require(process.env.KORVANE_ADDON);
 
@@ -155,7 +155,7 @@ test('no call leaves its connection open', () => {
 });
 
 test('what the server refuses terminates the process', () => {
-  const refuses = (error, call) => assert(print(`! ${runtime.join(' ')} -e \
+  const refuses = (error, call) => assert(print(`! ${process.execPath} -e \
     'require(process.env.KORVANE_MODULE).${call}' 2>&1`).includes(error));
   refuses('BadWindow', `isWindowHandle(${gone})`);
   refuses('BadValue', `moveWindow(${window}, 1, 2, 3, 65536, true)`);
