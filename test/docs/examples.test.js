@@ -5,6 +5,7 @@
 //
 //   ```js, ```c, ```cpp   a program; in a script `helper` is the module
 //   ```c name.c, ...      a file for the programs and commands that follow
+//   ```cmake name.txt     a project, which is built
 //   ```sh                 commands, where a block is behind: how it ends
 //   ```ts                 a signature, which is not run
 
@@ -17,7 +18,7 @@ const { build, makeFolder, makePackage, node, run } =
 
 const cwd = makeFolder();
 const prefix = makeFolder();
-const env = { ...process.env,
+const env = { ...process.env, CMAKE_PREFIX_PATH: prefix,
   PATH: `${path.dirname(node)}:${process.env.PATH}` };
 const shell = (text) => run('bash', ['-euo', 'pipefail', '-c', text],
   { cwd, env });
@@ -42,6 +43,7 @@ function runExample(language, name, text, printed) {
       language === 'js' && !text.startsWith(line) ? line + text : text);
   }
   if (isProgram) assert.strictEqual(shell(commands[language]), printed);
+  if (language === 'cmake') shell('cmake -B build && cmake --build build');
   if (language === 'sh' && printed) assert(shell(text).endsWith(printed));
 }
 
