@@ -109,6 +109,11 @@ test('a window is raised, or put directly above insertAfter', () => {
   puts(other, 2 ** 32);
 });
 
+test('a window without properties is none', () => {
+  print(`xprop -id ${other} -remove WM_NAME`);
+  check('isWindowHandle', [other], false);
+});
+
 test('the screen is that of the display, a window may be on any', () => {
   const outer = createWindow(100, 200, 90, 90, 1);
   const inner = createWindow(20, 30, 60, 50, 2, outer);
@@ -120,11 +125,6 @@ test('the screen is that of the display, a window may be on any', () => {
     isAt(outer, 201, 401, 90, 90);
     isAt(inner, 143, 263, 60, 50);
   });
-});
-
-test('a window without properties is none', () => {
-  print(`xprop -id ${other} -remove WM_NAME`);
-  check('isWindowHandle', [other], false);
 });
 
 test('the window with the focus may cover the default screen', () => {
