@@ -18,14 +18,9 @@ void require(bool holds, const char* property) {
 }
 
 Text widen(const Bytes& bytes) {
-  const Text odd_units = L"\xD800\x110000\x80000025\x8000002F\xFFFFFFFF";
   Text text;
   if (qk::text::decode_utf8(bytes, text)) return text;
-  text.clear();
-  for (const unsigned char byte : bytes) {
-    text += byte < 0xF8 ? wchar_t(byte) : odd_units[byte % 5];
-  }
-  return text;
+  return {bytes.begin(), bytes.end()};
 }
 
 static void run(const Bytes& input) {

@@ -10,8 +10,8 @@ void check(const Bytes& input);
 // An input that breaks a property terminates the program.
 void require(bool holds, const char* property);
 
-// UTF-8 as wide text. If it is not UTF-8, bytes are code units of the same
-// value, and F8 to FF are some that are no characters.
+// UTF-8 as wide text; bytes that are not UTF-8 as code units, some of which are
+// no characters.
 Text widen(const Bytes& bytes);
 
 #endif  // KORVANE_FUZZ_FUZZ_H_

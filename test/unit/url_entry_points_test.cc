@@ -13,7 +13,8 @@
 static thread_local std::size_t allowed = ~0UL;
 
 void* operator new(std::size_t size) {
-  void* const block = allowed-- == 0 ? nullptr : std::malloc(size);
+  void* const block = allowed == 0 ? nullptr : std::malloc(size);
+  allowed -= block == nullptr ? 0 : 1;
   return block != nullptr ? block : throw std::bad_alloc();
 }
 [[gnu::noinline]] void operator delete(void* block) noexcept {
