@@ -38,7 +38,8 @@ static void check_file_name(Text text, unsigned code_page) {
   const ExactCopy copy(text);
   // A file name is the last segment before the query.
   text.resize(std::min(text.size(), text.find(L'?')));
-  text.erase(0, text.find_last_of(L"\\/") + 1);
+  const std::size_t separator = text.find_last_of(L"\\/");
+  if (separator != Text::npos) text.erase(0, separator + 1);
   const Text want = url_object::file_name_for(text, code_page);
   Text out(want.size(), L'#');
   std::size_t size = out.size();

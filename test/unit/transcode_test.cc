@@ -72,7 +72,7 @@ TEST(utf8, HasTheCharactersUpTo10FFFF) {
     EXPECT_EQ(utf8, "a");
   }
   for (const Bytes bad :
-       {"\x80", "\xC1\xBF", "\xC3", "\xC3\xC0", "\xDF\x7F", "\xE0\x9F\xBF",
+       {"\x80\x80", "\xC1\xBF", "\xC3", "\xC3\xC0", "\xDF\x7F", "\xE0\x9F\xBF",
         "\xE4\xB8", "\xED\xA0\x80", "\xED\xBF\xBF", "\xF0\x8F\xBF\xBF",
         "\xF0\x90\x80", "\xF4\x90\x80\x80", "\xF8\x88\x88\x88\x80", "\xFF"}) {
     EXPECT_FALSE(qk::text::decode_utf8("a" + bad, decoded));

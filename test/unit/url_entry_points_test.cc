@@ -12,7 +12,7 @@
 // How many more times this thread gets memory.
 static thread_local std::size_t allowed = ~0UL;
 
-void* operator new(std::size_t size) {
+[[gnu::noinline]] void* operator new(std::size_t size) {
   void* const block = allowed == 0 ? nullptr : std::malloc(size);
   allowed -= block == nullptr ? 0 : 1;
   return block != nullptr ? block : throw std::bad_alloc();

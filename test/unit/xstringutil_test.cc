@@ -76,6 +76,7 @@ TEST(xstringutil, DumpsOfBytes) {
   EXPECT_EQ(Data2BitString(data.data(), 12), "101001010011");
   EXPECT_EQ(Data2BitString(data.data(), -1), "");
   EXPECT_EQ(DataToHexString(data.data(), 2, ": "), "a5: 3c: ");
+  EXPECT_EQ(DataToHexString(data.data(), -1, ": "), "");
 }
 
 TEST(xstringutil, EscapesDifferInTheirSetAndInTheCaseOfDigits) {
