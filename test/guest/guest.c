@@ -1,7 +1,4 @@
 #include <korvane/korvane_links.h>
-#ifdef __cplusplus
-#include <korvane/url_object.h>  // needs C++17
-#endif
 #include <wchar.h>
 
 int main(void) {

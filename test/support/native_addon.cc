@@ -59,24 +59,29 @@ void create_window(const Call& call) {
   set_result(call, static_cast<double>(window));
 }
 
-// What operations on a window return, by their names.
-void results(const Call& call) {
+// The names of the operations on a window that succeed.
+void successes(const Call& call) {
   const Window window = read_uint32(call, 0);
   const auto place = [&](unsigned flags) {
-    return XWindow::SetWindowPos(window, 0, 1, 2, 3, 4, flags);
+    return XWindow::SetWindowPos(window, 0, 1, 2, 3, 4, flags) != 0;
   };
   int n = 0;
-  set_result(call, {{"fullScreen", XWindow::IsInFullScreen()},
-                    {"place", place(0)},
-                    {"move", place(1)},
-                    {"resize", place(2)},
-                    {"neither", place(3)},
-                    {"hide", XWindow::ShowWindow(window, 0)},
-                    {"maximise", XWindow::ShowWindow(window, 3)},
-                    {"show", XWindow::ShowWindow(window, 5)},
-                    {"other", XWindow::ShowWindow(window, 6)},
-                    {"find", XWindow::GetWindowRect(window, n, n, n, n)},
-                    {"screen", XWindow::GetDisplayWindowRect(n, n)}});
+  const std::pair<const char*, bool> results[] = {
+      {"cover ", XWindow::IsInFullScreen()},
+      {"place ", place(0)},
+      {"move ", place(1)},
+      {"resize ", place(2)},
+      {"keep ", place(3)},
+      {"hide ", XWindow::ShowWindow(window, 0)},
+      {"maximise ", XWindow::ShowWindow(window, 3)},
+      {"show ", XWindow::ShowWindow(window, 5)},
+      {"other ", XWindow::ShowWindow(window, 6)},
+      {"find ", XWindow::GetWindowRect(window, n, n, n, n)},
+      {"screen ", XWindow::GetDisplayWindowRect(n, n)}};
+  std::string names;
+  for (const auto& [name, is_success] : results)
+    names += is_success ? name : "";
+  set_result(call, names.c_str());
 }
 
 // maximise(window): the message that watchers of the root's children receive.
@@ -106,7 +111,7 @@ void register_functions(v8::Local<v8::Object> exports) {
   NODE_SET_METHOD(exports, "compareNull", compare_null);
   NODE_SET_METHOD(exports, "getIp", get_ip);
   NODE_SET_METHOD(exports, "createWindow", create_window);
-  NODE_SET_METHOD(exports, "results", results);
+  NODE_SET_METHOD(exports, "successes", successes);
   NODE_SET_METHOD(exports, "maximise", maximise);
 }
 

@@ -3,16 +3,18 @@
 #include <dlfcn.h>
 #include <node.h>
 
-#include <cstdio>
+#include <iostream>
 
-extern "C" void node_module_register(void* record) {
-  const auto& module = *static_cast<node::node_module*>(record);
-  std::printf("%d %u %s %s handle %p init %d for contexts %d private %p %p\n",
-              module.nm_version, module.nm_flags, module.nm_filename,
-              module.nm_modname, module.nm_dso_handle,
-              module.nm_register_func != nullptr,
-              module.nm_context_register_func != nullptr, module.nm_priv,
-              static_cast<void*>(module.nm_link));
+extern "C" void node_module_register(void* mod) {
+  const auto& record = *static_cast<node::node_module*>(mod);
+  std::cout << record.nm_version << ' ' << record.nm_flags << ' '
+            << record.nm_filename << ' ' << record.nm_modname << " handle "
+            << record.nm_dso_handle << " init "
+            << (record.nm_register_func != nullptr) << " for contexts "
+            << (record.nm_context_register_func != nullptr) << " private "
+            << record.nm_priv << ' ' << record.nm_link << '\n';
 }
 
-int main(int, char** argv) { return dlopen(argv[1], RTLD_LAZY) == nullptr; }
+int main(int, char** argv) {
+  return dlopen(argv[1], RTLD_LAZY) == nullptr ? 1 : 0;
+}
