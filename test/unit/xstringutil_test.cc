@@ -27,6 +27,7 @@ TEST(xstringutil, TrimRemovesSpacesAndTabsOrOneSuffix) {
   EXPECT_EQ(TrimRight(text), "\n a \n");
   EXPECT_EQ(TrimLeft(text = " \t"), "");
   EXPECT_EQ(TrimRight(text = ".td.td", ".td"), ".td");
+  EXPECT_EQ(TrimRight(text = "td", ".td"), "td");
 }
 
 TEST(xstringutil, SplitsLeaveTheMissingPartUntouched) {
