@@ -48,20 +48,21 @@ TEST(ed2k_file_link, HasFivePieces) {
 }
 
 TEST(ed2k_file_link, ReadsTheLowHalfOfTheSize) {
-  const Text begin = kFile + L"a|";
-  const Text end = L"|" + kHash;
+  const auto sized = [](const Text& size) {
+    return parsed(kFile + L"a|" + size + L"|" + kHash);
+  };
   for (const Text none : {L"4294967296", L"0x10", L"- 5", L"\x80000035"}) {
-    EXPECT_EQ(parsed(begin + none + end), L"no 0 " + kZeros);
+    EXPECT_EQ(sized(none), L"no 0 " + kZeros);
   }
-  EXPECT_EQ(parsed(begin + L"18446744073709551616" + end), L"yes 4294967295");
-  EXPECT_EQ(parsed(begin + L" \t\n-5x" + end), L"yes 4294967291");
+  EXPECT_EQ(sized(L"18446744073709551616"), L"yes 4294967295");
+  EXPECT_EQ(sized(L" \t\n-5x"), L"yes 4294967291");
   // 64 code units behind white space.
-  EXPECT_EQ(parsed(begin + L"+" + Text(62, L'0') + L"12" + end), L"yes 1");
-  EXPECT_EQ(parsed(begin + Text(100, L' ') + L"12\0003"s + end), L"yes 12");
+  EXPECT_EQ(sized(L"+" + Text(62, L'0') + L"12"), L"yes 1");
+  EXPECT_EQ(sized(Text(100, L' ') + L"12\0003"s), L"yes 12");
   // The high half stays; the whole is checked.
   ed2k_file_link link(L"", 0x4000000000009, {});
-  EXPECT_TRUE(link.create_from_ed2k_url(begin + L"0" + end));
-  EXPECT_FALSE(link.create_from_ed2k_url(begin + L"1" + end));
+  EXPECT_TRUE(link.create_from_ed2k_url(kFile + L"a|0|" + kHash));
+  EXPECT_FALSE(link.create_from_ed2k_url(kFile + L"a|1|" + kHash));
   EXPECT_EQ(link.get_file_size(), 0x4000000000001U);
 }
 
@@ -108,6 +109,7 @@ TEST(ed2k_file_link, PrintsTheFieldsThatTheFlagsName) {
   ed2k_file_link link(L"", ~0UL, {{{0xAB}}});
   link.set_file_name(L"|\x1F600");
   link.set_root_hash({{{0xF8}}});
+  EXPECT_TRUE(link.get_root_hash() != ed2k_file_link::root_hash());
   link.set_part_hash({{{{1}}}, {{{2}}}});
   link.set_http_url(L"u?%ä");
   link.add_source("1.2.3.4", 4662);

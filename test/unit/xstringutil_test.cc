@@ -44,11 +44,11 @@ TEST(xstringutil, SplitsLeaveTheMissingPartUntouched) {
   EXPECT_EQ(parts(SplitFileName, "name"), "name -");
   EXPECT_EQ(parts(SplitFileName, "name."), "name -");
   // An output may be the input.
-  Bytes text = "dir/name.gz";
-  Bytes other;
-  SplitNetPathFile(text, other, text);
-  SplitFileName(text, text, other);
-  EXPECT_EQ(text + " " + other, "name gz");
+  Bytes path = "dir/name.gz";
+  Bytes rest;
+  SplitNetPathFile(path, rest, path);
+  SplitFileName(path, path, rest);
+  EXPECT_EQ(path + " " + rest, "name gz");
 }
 
 TEST(xstringutil, WindowsFileNamesAreShortAndFreeOfNineCharacters) {
