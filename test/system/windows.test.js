@@ -153,14 +153,6 @@ test('no call leaves its connection open', () => {
   assert.strictEqual(openDescriptors(), descriptors);
 });
 
-test('what the server refuses terminates the process', () => {
-  const refuses = (error, call) => assert(print(`! ${process.execPath} -e \
-    'require(process.env.KORVANE_MODULE).${call}' 2>&1`).includes(error));
-  refuses('BadWindow', `isWindowHandle(${gone})`);
-  refuses('BadValue', `moveWindow(${window}, 1, 2, 3, 65536, true)`);
-  refuses('BadWindow', `setWindowPos(${window}, -1, 1, 2, 3, 4, 3)`);
-});
-
 test('a managed window moves with its frame and is not maximised', () => {
   // It ends with the display.
   print(`openbox --sm-disable >/dev/null 2>&1 &
