@@ -23,19 +23,6 @@ static Bytes decode_base64(const Bytes& text) {
   return result == 0 ? Bytes(out.data(), out.data() + length) : Bytes();
 }
 
-// What comes back is the input up to a byte that could not be converted.
-static void check_round_trip(void (*widen)(const char*, unsigned, Text&),
-                             void (*narrow)(const wchar_t*, unsigned, Bytes&),
-                             const Bytes& input) {
-  const ExactCopy copy(input);
-  Text wide;
-  widen(copy.data(), copy.size(), wide);
-  const ExactCopy wide_copy(wide);
-  Bytes back;
-  narrow(wide_copy.data(), wide_copy.size(), back);
-  require(input.compare(0, back.size(), back) == 0, "there and back");
-}
-
 static void check_bases(const Bytes& input) {
   const ExactCopy copy(input);
   Bytes out;
@@ -70,9 +57,11 @@ static void check_percent_coding(const Bytes& input) {
 void check(const Bytes& input) {
   check_bases(input);
   check_percent_coding(input);
-  check_round_trip(transcode::GBK_to_Unicode, transcode::Unicode_to_GBK, input);
-  check_round_trip(transcode::ANSI_to_Unicode, transcode::Unicode_to_ANSI,
-                   input);
-  check_round_trip(transcode::UTF8_to_Unicode, transcode::Unicode_to_UTF8,
-                   input);
+  const ExactCopy copy(input);
+  Text wide;
+  transcode::GBK_to_Unicode(copy.data(), copy.size(), wide);
+  const ExactCopy wide_copy(wide);
+  Bytes back;
+  transcode::Unicode_to_GBK(wide_copy.data(), wide_copy.size(), back);
+  require(input.compare(0, back.size(), back) == 0, "GBK and back");
 }

@@ -32,7 +32,6 @@ static void check_url(const Text& text, unsigned code_page) {
 
 static void check_file_name(Text text, unsigned code_page) {
   const Text name = url_object::file_name_for(text, code_page);
-  require(!name.empty(), "a name is never empty");
   require(name.find_first_of(L"\\/:*?\"<>|\t\r\n") == Text::npos,
           "a name has what a file's name may");
   const ExactCopy copy(text);

@@ -45,7 +45,6 @@ static Bytes coded(int (*code)(Out*, unsigned*, const In*, unsigned),
 }
 
 TEST(base64_coding, EncodesIntoItsCapacity) {
-  EXPECT_EQ(coded(base64_encode, "", 2), "-16 2 ##");
   EXPECT_EQ(coded(base64_encode, "a", 5), "0 4 YQ==\0"s);
   EXPECT_EQ(coded(base64_encode, "abcde", 10), "0 8 YWJjZGU=\0#"s);
   EXPECT_EQ(coded(base64_encode, "abc", 4), "-16 5 ####");

@@ -7,7 +7,6 @@ TEST(korvane_url, EncodesBetweenMarkersAndDecodesNothing) {
   using Narrow = korvane_url_t<char>;
   using Wide = korvane_url_t<wchar_t>;
   EXPECT_EQ(Wide::encode("\xE4\xFF"), L"korvane://QUHk/1pa");
-  EXPECT_EQ(Narrow::decode("korvane://QUHk/1pa"), "");
   EXPECT_EQ(Wide::decode(L"korvane://QUHk/1pa"), "");
   // Only the narrow form records empty input.
   qk::set_last_error(7);

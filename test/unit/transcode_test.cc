@@ -45,9 +45,8 @@ TEST(transcode, ConvertsUpToWhatItCannot) {
 }
 
 TEST(transcode, BuffersFitAlmostAllText) {
-  for (const std::size_t size : {2047U, 2048U, 5000U}) {
-    EXPECT_EQ(narrow(transcode::UTF8_to_GBK, Bytes(size, 'n')).size(), size);
-  }
+  const Bytes many(5000, 'n');
+  EXPECT_EQ(narrow(transcode::UTF8_to_GBK, many), many);
   Bytes text = "old";
   transcode::UTF8_to_GBK(nullptr, 1, text);
   EXPECT_EQ(text, "");

@@ -85,7 +85,6 @@ TEST(url_entry_points, ParseUrlStopsAtWhatDoesNotFit) {
   EXPECT_EQ(run(parse_url, url + path + L"p"), -4);
   EXPECT_EQ(out.url.host_len, 256U);
   EXPECT_EQ(out.url.port, Outputs().url.port);
-  EXPECT_EQ(run(parse_url, L"ftp://:" + kName + L"p@h"), -4);
   EXPECT_EQ(run(parse_url, L""), -1);
   EXPECT_EQ(run(parse_url, kName + L"://h"), -1);
   EXPECT_EQ(run(parse_url, L"ftp:///"), -9);
@@ -138,7 +137,6 @@ TEST(url_entry_points, RefuseNullPointersAndAbsurdLengths) {
   EXPECT_EQ(url_info_to_str_u(out.text, nullptr, &out.url), -11);
   EXPECT_EQ(url_info_to_str_u(out.text, &out.length, nullptr), -11);
   EXPECT_EQ(parse_filename(nullptr, 0), -11);
-  EXPECT_EQ(parse_filename_u(nullptr, &out.length, L"a", 1, 0), -11);
   EXPECT_EQ(parse_filename_u(out.text, nullptr, L"a", 1, 0), -11);
   EXPECT_EQ(is_support_schema(nullptr, 0, &out.supported), -11);
   EXPECT_EQ(is_support_schema("http://", 7, nullptr), -11);

