@@ -59,7 +59,8 @@ TEST(base64_coding, EncodesIntoItsCapacity) {
 TEST(base64_coding, DecodesPastLineBreaks) {
   EXPECT_EQ(coded(base64_decode, "YWJj", 2), "-16 3 ##");
   EXPECT_EQ(coded(base64_decode, "YQ=\n=", 3), "0 1 a##");
-  EXPECT_EQ(coded(base64_decode, "\nYW\r\nJj\n\nYWI=", 6), "0 5 abcab#");
+  EXPECT_EQ(coded(base64_decode, "\nYWJj\r\nYWJjYW\nJjAAA=", 12),
+            "0 11 abcabcabc\0\0#"s);
   EXPECT_EQ(coded(base64_decode, "\n\r\n", 2), "0 2 ##");
   // A group that is not whole needs capacity and gives nothing.
   EXPECT_EQ(coded(base64_decode, "YWJjYWJ", 6), "0 3 abc###");

@@ -24,9 +24,10 @@ TEST(text_conversions, TheDefaultEncodingReadsAnyName) {
   EXPECT_EQ(decoded("caf\xE9.zip", 65001), L"caf\xE9.zip");
   // Western leaves five bytes undefined.
   Bytes western = "\xFF";
-  for (int byte = 0x80; byte < 0xA0; ++byte) western += static_cast<char>(byte);
+  for (int byte = 0x80; byte <= 0xA0; ++byte)
+    western += static_cast<char>(byte);
   EXPECT_EQ(string_2_wstring(western),
-            L"ÿ€\x81‚ƒ„…†‡ˆ‰Š‹Œ\x8DŽ\x8F\x90‘’“”•–—˜™š›œ\x9DžŸ");
+            L"ÿ€\x81‚ƒ„…†‡ˆ‰Š‹Œ\x8DŽ\x8F\x90‘’“”•–—˜™š›œ\x9DžŸ\xA0");
 }
 
 TEST(text_conversions, CodePages) {

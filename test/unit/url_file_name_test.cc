@@ -10,7 +10,7 @@ static Text name(const Text& url) { return url_object::file_name_for(url, 0); }
 TEST(url_file_name, IsTheCleanedLastSegment) {
   EXPECT_EQ(name(L"C:\\dir/a%2Fb%5Cc.txt"), L"c.txt");
   EXPECT_EQ(name(L"%E4%B8%AD%F0%9F%98%80.txt%4"), L"中😀.txt%4");
-  EXPECT_EQ(name(L" a b\v%20%09"), L" a b\v");
+  EXPECT_EQ(name(L" a b\v%20%09%09"), L" a b\v");
   for (const Text none : {L"", L"http://h/dir/ \t", L"x/:*|"}) {
     EXPECT_EQ(name(none), L"index.html");
   }
