@@ -8,7 +8,7 @@ add_custom_command(OUTPUT node
   COMMAND ${PATCHELF} --add-needed ${SANITIZERS} --output node ${RUNTIME}
   DEPENDS ${RUNTIME})
 add_custom_target(sanitized_runtime ALL DEPENDS node)
-# A leak is known by who asked for the memory. Some tests preload a library.
-set(RUNTIME env ASAN_OPTIONS=malloc_context_size=2:verify_asan_link_order=0
+# A leak is known by who asked for the memory.
+set(RUNTIME env ASAN_OPTIONS=malloc_context_size=2
   LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/known_leaks.txt
   ${CMAKE_CURRENT_BINARY_DIR}/node)
