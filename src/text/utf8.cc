@@ -27,8 +27,7 @@ bool read_character(std::string_view& utf8, std::uint32_t& character) {
                                 : first < 0xE0 ? 1
                                 : first < 0xF0 ? 2
                                                : 3;
-  if (utf8.size() <= following) return false;
-  // No character at all if `first` begins none.
+  if (first < kMark[following] || utf8.size() <= following) return false;
   character = first - kMark[following];
   for (std::size_t i = 1; i <= following; ++i) {
     const std::uint32_t byte = code_of(utf8[i]);
