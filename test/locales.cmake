@@ -1,7 +1,6 @@
 # Locales for the tests, made here so that the machine's own do not matter.
 find_program(LOCALEDEF localedef REQUIRED)
-foreach(locale
-    en_US.UTF-8 en_US.CP1252 en_US.KOI8-R tr_TR.UTF-8 zh_CN.GBK)
+foreach(locale en_US.UTF-8 en_US.KOI8-R tr_TR.UTF-8 zh_CN.GBK)
   string(REPLACE "." " -f " input_and_charmap ${locale})
   separate_arguments(input_and_charmap)
   add_custom_command(OUTPUT ${TEST_LOCALES}/${locale}
