@@ -29,12 +29,6 @@ function check(name, args, want) {
     args.map((arg) => inspect(arg)).join(', ')}) returned ${got}`);
 }
 
-// What a script prints in a process of its own, behind an emulator where this
-// one is.
-const printed = (script) => execFileSync('sh', ['-c',
-  '$KORVANE_EMULATOR "$0" -e "$1"', process.execPath, script],
-{ encoding: 'utf8' });
-
 // One that goes with the process.
 function enterTemporaryFolder() {
   const folder = fs.mkdtempSync(path.join(os.tmpdir(), 'korvane-'));
@@ -45,5 +39,5 @@ function enterTemporaryFolder() {
 const openDescriptors = () => fs.readdirSync('/proc/self/fd').length;
 
 module.exports = {
-  assert, check, enterTemporaryFolder, helper, openDescriptors, printed, test,
+  assert, check, enterTemporaryFolder, helper, openDescriptors, test,
 };

@@ -105,8 +105,6 @@ void maximise(const Call& call) {
 }
 
 void register_functions(v8::Local<v8::Object> exports) {
-  NODE_SET_METHOD(exports, "queryFileExists",
-                  KorvaneHelper::ExportQueryFileExists);
   NODE_SET_METHOD(exports, "complete", complete);
   NODE_SET_METHOD(exports, "compareNull", compare_null);
   NODE_SET_METHOD(exports, "getIp", get_ip);
