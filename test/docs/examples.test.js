@@ -23,6 +23,7 @@ const env = { ...process.env, CMAKE_PREFIX_PATH: prefix,
 const shell = (text) => run('bash', ['-euo', 'pipefail', '-c', text],
   { cwd, env });
 shell(`mkdir node_modules; ln -s ${makePackage()} node_modules/korvane-helper
+  echo "global.helper = require('korvane-helper')" >helper.js
   cmake --install ${build} --prefix ${prefix}`);
 env.PKG_CONFIG_PATH = path.dirname(shell(`find ${prefix} -name '*.pc'`));
 
@@ -30,18 +31,15 @@ const compile = '-Wall -Wextra -Werror -o program ' +
   '$(pkg-config --cflags --libs korvane_links) && ./program';
 // How a program is run.
 const commands = {
-  js: 'node program.js',
+  js: 'node -r ./helper.js program.js',
   c: `gcc program.c -std=c99 -pedantic-errors ${compile}`,
   cpp: `g++ program.cpp -std=c++17 ${compile}`,
 };
 
 function runExample(language, name, text, printed) {
-  const line = "const helper = require('korvane-helper');\n";
   const isProgram = !name && language in commands;
-  if (name || isProgram) {
-    fs.writeFileSync(path.join(cwd, name || `program.${language}`),
-      language === 'js' && !text.startsWith(line) ? line + text : text);
-  }
+  const file = isProgram ? `program.${language}` : name;
+  if (file) fs.writeFileSync(path.join(cwd, file), text);
   if (isProgram) assert.strictEqual(shell(commands[language]), printed);
   if (language === 'cmake') shell('cmake -B build && cmake --build build');
   if (language === 'sh' && printed) assert(shell(text).endsWith(printed));

@@ -13,7 +13,6 @@ const builds = `./prebuilds/linux-${arch}`;
 const own = run('ls', [builds], { cwd: made }).trim();
 const [major] = run(node, ['-p', 'process.versions.node']).split('.');
 const file = `${builds}/${own}/KorvaneHelper.node`;
-const held = `in ${builds}, which holds ${own}`;
 const again = 'install the package again';
 
 // What is done to the package; what the process says that it is; the problem;
@@ -21,11 +20,11 @@ const again = 'install the package again';
 const rows = [
   ['', { platform: 'darwin' }, `this is darwin on ${arch}`,
     'use linux on x64 or arm64'],
-  ['', { versions: { electron: '30.0.1', modules: '123', node: '20.9.0' } },
-    `this is Electron 30.0.1, no build for ABI 123 ${held}`,
+  ['', { versions: { electron: '30.0.1', modules: '1', node: '20.9.0' } },
+    'this is Electron 30.0.1, no build for ABI 1 in ',
     'load it in a Node.js process that Electron starts'],
-  ['', { versions: { modules: '120', node: '21.0.0' } },
-    `this is Node.js 21.0.0, no build for ABI 120 ${held}`,
+  ['', { versions: { modules: '1', node: '21.0.0' } },
+    `Node.js 21.0.0, no build for ABI 1 in ${builds}, which holds ${own}`,
     'use Node.js 8, 10, 18, 20, 22, 24, 26'],
   ['rm -r prebuilds', {}, `no build for ABI ${own.slice(4)} in ${builds} (`,
     `run "script/package --arch ${arch} ${major}" in a checkout and ${again}`],

@@ -12,5 +12,3 @@ console.log([count, System('echo hello'), found, place, file, include].join());
 void helper.rebootMachine;
 // @ts-expect-error: too few arguments
 helper.setWindowPos(1, 0, 2, 3, 4, 5);
-// @ts-expect-error: 1 or 0
-export const isKnown: boolean = helper.isPingHostValid('127.0.0.1');

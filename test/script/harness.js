@@ -25,8 +25,7 @@ function test(name, body) {
 // One row: calls a function of the module and compares what it returns.
 function check(name, args, want) {
   const got = inspect(helper[name](...args));
-  assert.strictEqual(got, inspect(want), `${name}(${
-    args.map((arg) => inspect(arg)).join(', ')}) returned ${got}`);
+  assert.strictEqual(got, inspect(want), `${name} ${inspect(args)}: ${got}`);
 }
 
 // One that goes with the process.

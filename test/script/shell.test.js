@@ -11,7 +11,6 @@ test('System returns what the command prints, up to a zero byte', () => {
   check('System', ['printf "中文 \\360\\237\\230\\200"', 1], '中文 😀');
   check('System', ['echo seen; echo unseen >&2; exit 3'], 'seen\n');
   check('System', ['printf "a\\0b"'], 'a');
-  check('System', ['printf "a\\377b"'], 'a\ufffdb');
   check('System', ['echo a\0b'], 'a\n');
   check('System', [''], '');
   check('System', [new String('touch ran')], undefined);

@@ -8,11 +8,10 @@
 extern "C" void node_module_register(void* mod) {
   const auto& record = *static_cast<node::node_module*>(mod);
   std::cout << record.nm_version << ' ' << record.nm_flags << ' '
-            << record.nm_filename << ' ' << record.nm_modname << " handle "
-            << record.nm_dso_handle << " init "
-            << (record.nm_register_func != nullptr) << " for contexts "
-            << (record.nm_context_register_func != nullptr) << " private "
-            << record.nm_priv << ' ' << record.nm_link << '\n';
+            << record.nm_filename << ' ' << record.nm_modname << ' '
+            << record.nm_dso_handle << (record.nm_register_func != nullptr)
+            << (record.nm_context_register_func != nullptr) << record.nm_priv
+            << record.nm_link << '\n';
 }
 
 int main(int, char** argv) {

@@ -15,7 +15,6 @@ const on = (screen, ...expressions) => JSON.parse(execFileSync('xvfb-run', [
 test('the factor is the screen\'s scale, truncated to two places', () => {
   for (const [screen, factor] of [
     ['2560x1440x24 -dpi 128', 1.33],
-    ['1280x1024x24 -dpi 72', 0.74],
     ['1000x1000x24 -dpi 100', 1.04],
     ['640x480x24 -dpi 100000', 1],  // no physical width
   ]) {
