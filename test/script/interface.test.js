@@ -91,6 +91,19 @@ test('nothing throws, and a function returns what it may', () => {
   }
 });
 
+test('few functions read objects, and after their checks', () => {
+  const notes = [];
+  for (const name of names) {
+    const objects = ['a', 'b', 'c'].map((note) => (
+      { toString() { notes.push(name + note); return note; } }));
+    helper[name](...objects, 'no function');
+    helper[name](...objects, () => {});
+  }
+  assert.strictEqual(notes.join(), 'setDefaultDPIa,setDefaultDPIa,' +
+    'isPingHostValida,isPingHostValida,asyncShellExecuteAndWaita,' +
+    'asyncShellExecuteAndWaitb,asyncShellExecuteAndWaitc');
+});
+
 test('nothing of a script that is being terminated runs on', () => {
   const forever = () => { for (;;); };
   const value = { toString: forever, valueOf: forever };

@@ -3,7 +3,7 @@
 // The window functions on a real display of two screens, bare and, at the end,
 // under a window manager. The addon has what the module drops or does not bind.
 
-const { execFileSync } = require('child_process');
+const { execFileSync, spawnSync } = require('child_process');
 const { assert, check, helper, openDescriptors, test } =
   require('../script/harness');
 const { createWindow, maximise, successes } =
@@ -151,6 +151,14 @@ test('maximising sends a message to who watches the root', () => {
 
 test('no call leaves its connection open', () => {
   assert.strictEqual(openDescriptors(), descriptors);
+});
+
+test('what the server refuses terminates the process', () => {
+  const refuses = (error, call) => assert(print(`! ${process.execPath} -e \
+    'require(process.env.KORVANE_MODULE).${call}' 2>&1`).includes(error));
+  refuses('BadWindow', `isWindowHandle(${gone})`);
+  refuses('BadValue', `moveWindow(${window}, 1, 2, 3, 65536, true)`);
+  refuses('BadWindow', `setWindowPos(${window}, -1, 1, 2, 3, 4, 3)`);
 });
 
 test('a managed window moves with its frame and is not maximised', () => {
