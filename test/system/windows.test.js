@@ -3,7 +3,7 @@
 // The window functions on a real display of two screens, bare and, at the end,
 // under a window manager. The addon has what the module drops or does not bind.
 
-const { execFileSync, spawnSync } = require('child_process');
+const { execFileSync } = require('child_process');
 const { assert, check, helper, openDescriptors, test } =
   require('../script/harness');
 const { createWindow, maximise, successes } =
