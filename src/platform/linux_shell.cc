@@ -98,8 +98,7 @@ std::string LinuxShell::MacId::GetMacAddr() {
 std::string LinuxShell::MacId::GetIp() {
   constexpr char kMessage[] = "broadcast test";
   constexpr std::size_t kScratchSize = 13;
-  Socket socket;
-  if (!socket.is_open()) return {};
+  Socket socket;  // one that is not open cannot be bound
   const int on = 1;
   setsockopt(socket.descriptor(), SOL_SOCKET, SO_BROADCAST, &on, sizeof(on));
 

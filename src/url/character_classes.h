@@ -32,16 +32,14 @@ constexpr std::array<CharacterClasses, 128> make_character_classes() {
       classes[text::code_of(character)] |= character_class;
     }
   };
-  for (unsigned control = 0; control < 32; ++control) {
-    classes[control] |= kNeedEscape;
-  }
-  mark(" \x7F\"#%<>[\\]^`{|}~", kNeedEscape);
+  for (unsigned code = 0; code <= ' '; ++code) classes[code] = kNeedEscape;
+  mark("\x7F\"#%<>[\\]^`{|}~", kNeedEscape);
   mark("$&+,/:;=?@", kReserved);
   mark("\\/", kSeparator);
   mark("\\/:*?\"<>|\t\r\n", kIllegal);
   mark(".", kDot);
   mark("%", kPercent);
-  mark(std::string_view("\0", 1), kZero);
+  classes[0] |= kZero;
   return classes;
 }
 

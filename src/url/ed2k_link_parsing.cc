@@ -58,9 +58,7 @@ bool next_piece(std::wstring_view& rest, std::wstring_view separator,
                 std::wstring_view& piece) {
   do {
     if (rest.empty()) return false;
-    const std::size_t size = std::min(
-        separator.size() == 1 ? rest.find(separator[0]) : rest.find(separator),
-        rest.size());
+    const std::size_t size = std::min(rest.find(separator), rest.size());
     piece = rest.substr(0, size);
     rest.remove_prefix(std::min(size + separator.size(), rest.size()));
   } while (piece.empty());

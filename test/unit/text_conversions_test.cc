@@ -11,6 +11,7 @@ TEST(text_conversions, NarrowTextIsUtf8UpToAZero) {
   EXPECT_EQ(wstring_2_utf8(L"café😀😀\0é"s), "café😀😀");
   EXPECT_EQ(wstring_2_string(L"\x80z"), "\xC2\x80z");
   EXPECT_EQ(string_2_wstring("plain\0"s), L"plain");
+  EXPECT_EQ(string_2_wstring("\0"s), L"");
 }
 
 // UTF-8, otherwise GBK, otherwise Western.
