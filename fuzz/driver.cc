@@ -20,7 +20,12 @@ void require(bool holds, const char* property) {
 Text widen(const Bytes& bytes) {
   Text text;
   if (qk::text::decode_utf8(bytes, text)) return text;
-  return {bytes.begin(), bytes.end()};
+  text.clear();
+  constexpr wchar_t kOdd[] = L"\xD800\x110000\x80000025\x8000002F";
+  for (const unsigned char byte : bytes) {
+    text += byte < 0xFC ? wchar_t(byte) : kOdd[byte - 0xFC];
+  }
+  return text;
 }
 
 static void run(const Bytes& input) {

@@ -27,6 +27,7 @@ bool read_character(std::string_view& utf8, std::uint32_t& character) {
                                 : first < 0xE0 ? 1
                                 : first < 0xF0 ? 2
                                                : 3;
+  // What F8 to FF begin is beyond the last character.
   if (first < kMark[following] || utf8.size() <= following) return false;
   character = first - kMark[following];
   for (std::size_t i = 1; i <= following; ++i) {

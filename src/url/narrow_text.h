@@ -12,11 +12,11 @@
 namespace qk::url {
 
 // The bytes of `text` in the default narrow encoding, one per code unit, up to
-// the first zero. A view of `text` if that is plain, otherwise of `bytes`.
+// the first zero. A view of `text` if that is plain, otherwise of `bytes`,
+// which is empty at first.
 inline std::wstring_view narrow_bytes(std::wstring_view text,
                                       std::wstring& bytes) {
   if (text::is_plain(text)) return text;
-  bytes.clear();
   const std::wstring wide(text::until_zero(text));
   for (const char byte : wstring_2_string(wide)) {
     bytes += static_cast<wchar_t>(text::code_of(byte));

@@ -34,7 +34,7 @@ enum class Kept {
 // value, 0 to 255, and returns the end: at most text.size() code units. `out`
 // may be the start of the text itself. A "%" that begins no escape is copied.
 // `see` is called with each code unit before it is written, and whether it
-// stands for a "%" or an escape.
+// comes from a "%" or an escape.
 //
 // Stops at the first code unit outside of escapes for which `ends` returns
 // true; `text` becomes what is left from there on.

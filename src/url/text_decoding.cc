@@ -20,8 +20,8 @@ ClassifiedText unescape(ClassifiedText text, ScratchText& scratch) {
 
 }  // namespace
 
-void decode_escapes(ClassifiedText& text, unsigned code_page,
-                    ScratchText& scratch, ChooseCodePage choose) {
+void decode_ascii(ClassifiedText& text, unsigned code_page,
+                  ScratchText& scratch, ChooseCodePage choose) {
   text = unescape(text, scratch);
   if (!reads_ascii(code_page) || text.holds(kForeign)) {
     const std::string bytes(text.text.begin(), text.text.end());

@@ -64,10 +64,10 @@ inline bool reads_ascii(unsigned code_page) {
 
 // Whether `text` needs no look at its encoding.
 inline bool is_decoded(std::wstring_view text, unsigned code_page) {
-  const bool is_plain =
-      std::none_of(text.begin(), text.end(),
-                   [](wchar_t unit) { return unit == L'%' || unit == L'\0'; });
-  return text.empty() || (is_plain && is_default_code_page(code_page));
+  const bool is_special =
+      std::any_of(text.begin(), text.end(),
+                  [](wchar_t unit) { return unit == L'%' || unit == L'\0'; });
+  return text.empty() || (!is_special && is_default_code_page(code_page));
 }
 
 // Chooses the code page to read bytes in from the one that was asked for.
@@ -79,9 +79,9 @@ inline unsigned choose_as_asked(const std::string& /*bytes*/,
   return code_page;
 }
 
-// Decodes ASCII text that is not its own decoded form.
-void decode_escapes(ClassifiedText& text, unsigned code_page,
-                    ScratchText& scratch, ChooseCodePage choose);
+// Decodes ASCII text: its escapes, and then its bytes in `code_page`.
+void decode_ascii(ClassifiedText& text, unsigned code_page,
+                  ScratchText& scratch, ChooseCodePage choose);
 
 // Replaces `text` by its decoded form, a view of the same text or of `scratch`.
 //
@@ -93,7 +93,7 @@ inline void decode_with_code_page(ClassifiedText& text, unsigned code_page,
                                   ChooseCodePage choose = choose_as_asked) {
   if (text.holds(kForeign)) return;
   if (reads_ascii(code_page) && !text.holds(kPercent | kZero)) return;
-  decode_escapes(text, code_page, scratch, choose);
+  decode_ascii(text, code_page, scratch, choose);
 }
 
 inline std::wstring_view decoded(std::wstring_view text, unsigned code_page,

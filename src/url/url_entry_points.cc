@@ -65,9 +65,9 @@ long parse(std::wstring_view url, unsigned code_page, url_info_u& info) {
   const auto [fault, parts] = split_url(url);
   if (fault != UrlFault::kNone) return URL_E_PARSE;
   if (parts.type == SCHEMA_UNKNOWN) return URL_E_UNSUPPORTED;
-  const bool is_plain = is_decoded(parts.user, code_page) &&
+  const bool is_ready = is_decoded(parts.user, code_page) &&
                         is_decoded(parts.password, code_page);
-  return is_plain ? write_record(parts, code_page, info)
+  return is_ready ? write_record(parts, code_page, info)
                   : write_decoded(parts, code_page, info);
 }
 

@@ -50,6 +50,7 @@ const fence =
 
 for (const page of process.argv.slice(2)) {
   const text = fs.readFileSync(path.join(__dirname, '../..', page), 'utf8');
+  assert(text.match(fence), page);
   for (const found of text.matchAll(fence)) {
     const line = text.slice(0, found.index).split('\n').length;
     test(`${page}:${line}`, () => runExample(...found.slice(1)));

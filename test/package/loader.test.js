@@ -28,8 +28,6 @@ const rows = [
     'use Node.js 8, 10, 18, 20, 22, 24, 26'],
   ['rm -r prebuilds', {}, `no build for ABI ${own.slice(4)} in ${builds} (`,
     `run "script/package --arch ${arch} ${major}" in a checkout and ${again}`],
-  ['mkdir script; touch script/test; rm -r prebuilds', {}, 'no build for ABI ',
-    `run "script/${major === '8' ? 'demo' : `test --runtime ${major}`}"`],
   [`truncate -s 3 ${file}`, {}, `${file}: file too short`, again],
   [`sed -i s/libX11.so.6/libX11.so.9/ ${file}`, {}, 'libX11.so.9: cannot open',
     'run "apt-get install libx11-6"'],

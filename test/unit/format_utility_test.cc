@@ -49,7 +49,7 @@ TEST(format_utility, TrueAndOneAreTrue) {
 }
 
 TEST(format_utility, ByteCountsAreInTheUnitThatTheyExceed) {
-  EXPECT_EQ(Narrow::kilo_format(NAN), "");
+  EXPECT_EQ(Narrow::kilo_format(NAN) + Narrow::kilo_format(-1), "");
   EXPECT_EQ(Narrow::kilo_format(0), "0B");
   EXPECT_EQ(Narrow::kilo_format(1024), "1024B");
   EXPECT_EQ(Narrow::kilo_format(1536), "1.50KB");

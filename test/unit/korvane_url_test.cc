@@ -10,7 +10,7 @@ TEST(korvane_url, EncodesBetweenMarkersAndDecodesNothing) {
   EXPECT_EQ(Wide::decode(L"korvane://QUHk/1pa"), "");
   // Only the narrow form records empty input.
   qk::set_last_error(7);
-  EXPECT_EQ(Wide::encode(""), L"");
+  EXPECT_EQ(Wide::encode("") + Wide::encode(nullptr), L"");
   EXPECT_EQ(qk::get_last_error(), 7U);
   EXPECT_EQ(Narrow::encode(nullptr), "");
   EXPECT_EQ(qk::get_last_error(), 20100001U);

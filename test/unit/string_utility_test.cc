@@ -10,6 +10,7 @@ using Wide = qk::text::string_utility_t<wchar_t>;
 TEST(string_utility, CompareNocaseIgnoresTheCount) {
   EXPECT_GT(Narrow::compare_nocase("abd", "ABC", 2), 0);
   EXPECT_EQ(Wide::compare_nocase(L"abC", L"ABc"), 0);
+  EXPECT_LT(Wide::compare_nocase(L"abc", L"ABD", 2), 0);
 }
 
 TEST(string_utility, FindNocaseReturnsTheFirstPlace) {
@@ -17,6 +18,7 @@ TEST(string_utility, FindNocaseReturnsTheFirstPlace) {
   EXPECT_EQ(Wide::find_nocase(text, L"AB"), text + 1);
   EXPECT_EQ(Wide::find_nocase(text, L""), nullptr);
   EXPECT_EQ(Wide::find_nocase(nullptr, L"a"), nullptr);
+  EXPECT_EQ(Wide::find_nocase(text, nullptr), nullptr);
   // No other case beyond a byte.
   EXPECT_EQ(Wide::find_nocase(text, L"\x101"), nullptr);
   EXPECT_EQ(Wide::find_nocase(text, L"c"), nullptr);

@@ -85,6 +85,7 @@ TEST(url_entry_points, ParseUrlStopsAtWhatDoesNotFit) {
   EXPECT_EQ(run(parse_url, url + path + L"p"), -4);
   EXPECT_EQ(out.url.host_len, 256U);
   EXPECT_EQ(out.url.port, Outputs().url.port);
+  EXPECT_EQ(out.url.code_page, Outputs().url.code_page);
   EXPECT_EQ(run(parse_url, L""), -1);
   EXPECT_EQ(run(parse_url, kName + L"://h"), -1);
   EXPECT_EQ(run(parse_url, L"ftp:///"), -9);
@@ -93,7 +94,8 @@ TEST(url_entry_points, ParseUrlStopsAtWhatDoesNotFit) {
 
 TEST(url_entry_points, UrlInfoToStrTrustsTheLengths) {
   url_info_u info = {};
-  EXPECT_EQ(parse_url_u(L"http://u%41@h:81/p", 18, 0, &info), 0);
+  EXPECT_EQ(parse_url_u(L"http://u%41@h:81/p", 18, 936, &info), 0);
+  EXPECT_EQ(info.code_page, 936U);
   std::size_t size = 16;
   EXPECT_EQ(url_info_to_str_u(info.host, &size, &info), -4);
   EXPECT_EQ(size++, 16U);
