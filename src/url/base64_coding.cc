@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 #include <korvane/korvane_links.h>
@@ -95,27 +96,27 @@ std::size_t digit_run(std::string_view text) {
   return size;
 }
 
-// Counts digits and padding; false if anything else than line breaks is among
-// them, if there is more padding than a group can have, or a digit behind it.
-bool count_significant(std::string_view text, std::uint64_t& count) {
+// The number of digits and padding. None if anything else than line breaks is
+// among them, if there is more padding than a group can have, or a digit behind
+// it.
+std::optional<std::uint64_t> count_significant(std::string_view text) {
   unsigned padding = 0;
-  count = 0;
+  std::uint64_t count = 0;
   while (!text.empty()) {
     std::size_t size = digit_run(text);
     if (size != 0) {
-      if (padding != 0) return false;
+      if (padding != 0) return std::nullopt;
       count += size;
     } else if (text[0] == '=') {
-      if (++padding > kMostPadding) return false;
+      if (++padding > kMostPadding) return std::nullopt;
       size = 1;
     } else {
       size = line_break_size(text);
-      if (size == 0) return false;
+      if (size == 0) return std::nullopt;
     }
     text.remove_prefix(size);
   }
-  count += padding;
-  return true;
+  return count + padding;
 }
 
 // Gathers the next group past line breaks; padding counts as digits of 0.
@@ -192,10 +193,10 @@ int base64_decode(unsigned char* destination, unsigned* destination_length,
                   const char* source, unsigned source_length) {
   if (source == nullptr || source_length == 0) return BASE64_E_CHARACTER;
   const std::string_view text(source, source_length);
-  std::uint64_t significant = 0;
-  if (!count_significant(text, significant)) return BASE64_E_CHARACTER;
-  if (significant == 0) return 0;
-  if (!fits((6 * significant + 7) / 8, destination_length)) {
+  const std::optional<std::uint64_t> significant = count_significant(text);
+  if (!significant) return BASE64_E_CHARACTER;
+  if (*significant == 0) return 0;
+  if (!fits((6 * *significant + 7) / 8, destination_length)) {
     return BASE64_E_BUFFER;
   }
   *destination_length = static_cast<unsigned>(decode(text, destination));

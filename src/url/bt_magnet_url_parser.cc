@@ -127,7 +127,7 @@ bool bt_magnet_url_parser::parse_magnet_url() {
       take_part(rest, L'&');
     } else {
       const bool is_valid = read_exact_topic(take_part(rest, L'&'), hash);
-      has_info_hash_ |= hash.is_found;
+      has_info_hash_ = hash.is_found;
       if (!is_valid) return false;
       info_hash_.assign(hash.bytes.begin(), hash.bytes.end());
     }

@@ -13,14 +13,14 @@ namespace qk::url {
 
 using CharacterClasses = std::uint8_t;
 
-constexpr CharacterClasses kNeedEscape = 1;  // is escaped when printed
-constexpr CharacterClasses kReserved = 2;    // separates the parts of a URL
-constexpr CharacterClasses kSeparator = 4;   // precedes the name of a file
-constexpr CharacterClasses kIllegal = 8;     // no file name may contain it
-constexpr CharacterClasses kDot = 16;        // begins a file extension
-constexpr CharacterClasses kPercent = 32;    // begins an escape
-constexpr CharacterClasses kZero = 64;       // ends text that is converted
-constexpr CharacterClasses kForeign = 128;   // not ASCII
+constexpr CharacterClasses kForeign = 1;     // not ASCII
+constexpr CharacterClasses kNeedEscape = 2;  // is escaped when printed
+constexpr CharacterClasses kReserved = 4;    // separates the parts of a URL
+constexpr CharacterClasses kSeparator = 8;   // precedes the name of a file
+constexpr CharacterClasses kIllegal = 16;    // no file name may contain it
+constexpr CharacterClasses kDot = 32;        // begins a file extension
+constexpr CharacterClasses kPercent = 64;    // begins an escape
+constexpr CharacterClasses kZero = 128;      // ends text that is converted
 
 namespace internal {
 
