@@ -31,8 +31,7 @@ const rows = [
   [`truncate -s 3 ${file}`, {}, `${file}: file too short`, again],
   [`sed -i s/libX11.so.6/libX11.so.9/ ${file}`, {}, 'libX11.so.9: cannot open',
     'run "apt-get install libx11-6"'],
-  [`sed -i s/GLIBC_2.14/GLIBC_2.99/ ${file}`, {},
-    "libc.so.6: version `GLIBC_2.99' not found",
+  [`sed -i s/GLIBC_2.14/GLIBC_2.99/ ${file}`, {}, "GLIBC_2.99' not found",
     'use Debian 12 or a newer system with glibc'],
 ];
 

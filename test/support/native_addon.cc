@@ -106,7 +106,6 @@ void maximise(const Call& call) {
 
 void register_functions(v8::Local<v8::Object> exports) {
   NODE_SET_METHOD(exports, "complete", complete);
-  NODE_SET_METHOD(exports, "fileExists", KorvaneHelper::ExportQueryFileExists);
   NODE_SET_METHOD(exports, "compareNull", compare_null);
   NODE_SET_METHOD(exports, "getIp", get_ip);
   NODE_SET_METHOD(exports, "createWindow", create_window);

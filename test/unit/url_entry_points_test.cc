@@ -159,6 +159,10 @@ TEST(url_entry_points, RefuseNullPointersAndAbsurdLengths) {
 }
 
 TEST(url_entry_points, WorkInTwoThreadsAndWithoutMemory) {
+  EXPECT_EQ(run(parse_url, L"ftp://us%3Aer:pass%20word@h:8/a%20b?c#d", 0), 0);
+  EXPECT_EQ(run(parse_filename, L"h/a%20:" + Text(249, L'n') + L"?b", 0), 0);
+  EXPECT_EQ(run(parse_ed2k, L"ed2k://|file|a%20b" + kHash + L"|s=u|", 0), 0);
+  EXPECT_EQ(run(parse_magnet, L"magnet:?xt=urn:btih:" + Text(40, L'a'), 0), 0);
   // A call of each that needs memory, and what it returns without.
   const Text escapes = Text(500, L'n') + L"%D6%D0";
   const std::tuple<Parse, Text, long> calls[] = {
