@@ -19,19 +19,6 @@ int complete(CallbackHolder* holder, const MakeValues& make) {
 template <std::size_t count>
 using Values = std::array<v8::Local<v8::Value>, count>;
 
-template <typename Elements, typename MakeElement>
-v8::Local<v8::Array> make_list(v8::Isolate* isolate, const Elements& elements,
-                               const MakeElement& make) {
-  const auto list = v8::Array::New(isolate, static_cast<int>(elements.size()));
-  const ScriptGuard guard(isolate);  // scripts may have put setters in the way
-  std::uint32_t index = 0;
-  for (const auto& element : elements) {
-    list->Set(isolate->GetCurrentContext(), index++, make(element))
-        .FromMaybe(false);
-  }
-  return list;
-}
-
 }  // namespace
 
 int KorvaneHelper::OnIsSSD(std::int32_t, bool success,

@@ -1,17 +1,8 @@
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
 #include "platform/dpi_interface.h"
 #include "script/korvane_helper.h"
-
-// Truncates toward zero and saturates; 0 for not-a-number.
-static int saturated(double value) {
-  using Limits = std::numeric_limits<int>;
-  if (std::isnan(value)) return 0;
-  return static_cast<int>(
-      std::clamp<double>(value, Limits::min(), Limits::max()));
-}
 
 void KorvaneHelper::GetMonitorDPIFactor(const Call& call) {
   set_result(call, DPIInterface::GetMonitorDPIFactor());
@@ -26,7 +17,10 @@ void KorvaneHelper::GetDPIAwareSupport(const Call& call) {
 }
 
 void KorvaneHelper::SetDefaultDPI(const Call& call) {
-  DPIInterface::SetDefaultDPI(saturated(read_number(call, 0)));
+  const double dpi = read_number(call, 0);
+  constexpr double kMost = std::numeric_limits<int>::max();
+  if (dpi >= 1)
+    DPIInterface::SetDefaultDPI(static_cast<int>(std::min(dpi, kMost)));
 }
 
 // Caches that nothing fills on this platform.

@@ -128,6 +128,20 @@ v8::Local<v8::Value> make_string(v8::Isolate* isolate, const char* utf8);
 v8::Local<v8::Value> make_string(v8::Isolate* isolate,
                                  const std::uint16_t* utf16);
 
+// An array of the values that `make` returns for the elements.
+template <typename Elements, typename MakeElement>
+v8::Local<v8::Array> make_list(v8::Isolate* isolate, const Elements& elements,
+                               const MakeElement& make) {
+  const auto list = v8::Array::New(isolate, static_cast<int>(elements.size()));
+  const ScriptGuard guard(isolate);  // scripts may have put setters in the way
+  std::uint32_t index = 0;
+  for (const auto& element : elements) {
+    list->Set(isolate->GetCurrentContext(), index++, make(element))
+        .FromMaybe(false);
+  }
+  return list;
+}
+
 // --- Setting the result; without one, a call returns undefined
 
 inline void set_result(const Call& call, bool value) {
