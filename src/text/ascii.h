@@ -36,11 +36,16 @@ constexpr std::basic_string_view<Unit> until_zero(
   return text.substr(0, text.find(Unit(0)));
 }
 
-// The lower-case form of the letters "A" to "Z"; any other unit unchanged.
+template <typename Unit>
+constexpr bool is_letter(Unit unit) {
+  const auto lower = unit | 0x20;
+  return lower >= 'a' && lower <= 'z';
+}
+
+// The lower-case form of a letter; any other unit unchanged.
 template <typename Unit>
 constexpr Unit to_lower_ascii(Unit unit) {
-  const bool is_upper = unit >= Unit('A') && unit <= Unit('Z');
-  return static_cast<Unit>(is_upper ? unit + ('a' - 'A') : unit);
+  return is_letter(unit) ? static_cast<Unit>(unit | 0x20) : unit;
 }
 
 inline bool begins_with(std::wstring_view text, std::wstring_view prefix) {
@@ -61,10 +66,10 @@ bool begins_with_nocase(std::basic_string_view<Unit> text,
 
 // Whether `text` contains `word`, which is in lower case, in any case.
 inline bool contains_nocase(std::wstring_view text, std::string_view word) {
-  for (; text.size() >= word.size(); text.remove_prefix(1)) {
-    if (begins_with_nocase(text, word)) return true;
-  }
-  return false;
+  return std::search(text.begin(), text.end(), word.begin(), word.end(),
+                     [](wchar_t unit, char lower) {
+                       return to_lower_ascii(unit) == wchar_t(lower);
+                     }) != text.end();
 }
 
 }  // namespace qk::text

@@ -15,14 +15,14 @@ namespace qk::text {
 template <typename Unit>
 constexpr std::optional<std::uint64_t> decimal_value(
     std::basic_string_view<Unit> digits) {
-  constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
   std::uint64_t value = 0;
   for (const Unit unit : digits) {
     if (unit < Unit('0') || unit > Unit('9')) return std::nullopt;
     const auto digit = static_cast<std::uint64_t>(unit - Unit('0'));
-    const bool fits =
-        value < kMost / 10 || (value == kMost / 10 && digit <= kMost % 10);
-    value = fits ? value * 10 + digit : kMost;
+    if (__builtin_mul_overflow(value, 10, &value) ||
+        __builtin_add_overflow(value, digit, &value)) {
+      value = std::numeric_limits<std::uint64_t>::max();
+    }
   }
   return value;
 }

@@ -12,59 +12,58 @@ constexpr char kUtf8[] = "UTF-8";
 constexpr char kGbk[] = "GBK";
 constexpr char kAnsi[] = "MS-ANSI";
 
-// The capacity for the output is `units_each` code units for each of the input,
-// and `spare` more.
+// Output beyond `capacity` code units is cut off.
 template <typename In, typename Out>
 void convert_all(const char* to, const char* from, const In* text,
-                 unsigned length, std::size_t units_each, std::size_t spare,
+                 unsigned length, std::size_t capacity,
                  std::basic_string<Out>& output) {
   if (text == nullptr || length == 0) {
     output.clear();
     return;
   }
-  convert(to, from, text, length, units_each * length + spare, output);
+  convert(to, from, text, length, capacity, output);
 }
 
 }  // namespace
 
 void transcode::Unicode_to_UTF8(const wchar_t* text, unsigned length,
                                 std::string& utf8) {
-  convert_all(kUtf8, kWide, text, length, 3, 1, utf8);
+  convert_all(kUtf8, kWide, text, length, 3UL * length + 1, utf8);
 }
 
 void transcode::UTF8_to_Unicode(const char* text, unsigned length,
                                 std::wstring& wide) {
-  convert_all(kWide, kUtf8, text, length, 1, 1, wide);
+  convert_all(kWide, kUtf8, text, length, length, wide);
 }
 
 void transcode::GBK_to_UTF8(const char* text, unsigned length,
                             std::string& utf8) {
-  convert_all(kUtf8, kGbk, text, length, 2, 0, utf8);
+  convert_all(kUtf8, kGbk, text, length, 2UL * length, utf8);
 }
 
 void transcode::UTF8_to_GBK(const char* text, unsigned length,
                             std::string& gbk) {
-  convert_all(kGbk, kUtf8, text, length, 1, 1, gbk);
+  convert_all(kGbk, kUtf8, text, length, length, gbk);
 }
 
 void transcode::Unicode_to_GBK(const wchar_t* text, unsigned length,
                                std::string& gbk) {
-  convert_all(kGbk, kWide, text, length, 2, 1, gbk);
+  convert_all(kGbk, kWide, text, length, 2UL * length, gbk);
 }
 
 void transcode::GBK_to_Unicode(const char* text, unsigned length,
                                std::wstring& wide) {
-  convert_all(kWide, kGbk, text, length, 1, 1, wide);
+  convert_all(kWide, kGbk, text, length, length, wide);
 }
 
 void transcode::Unicode_to_ANSI(const wchar_t* text, unsigned length,
                                 std::string& ansi) {
-  convert_all(kAnsi, kWide, text, length, 2, 1, ansi);
+  convert_all(kAnsi, kWide, text, length, length, ansi);
 }
 
 void transcode::ANSI_to_Unicode(const char* text, unsigned length,
                                 std::wstring& wide) {
-  convert_all(kWide, kAnsi, text, length, 1, 1, wide);
+  convert_all(kWide, kAnsi, text, length, length, wide);
 }
 
 void transcode::UTF8_to_tstring(const char* text, unsigned length,

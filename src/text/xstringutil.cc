@@ -137,9 +137,9 @@ std::string Int64ToString(long long value) { return std::to_string(value); }
 
 std::string Data2BitString(const char* data, int bit_count) {
   if (data == nullptr || bit_count <= 0) return {};
-  std::string bits(static_cast<std::size_t>(bit_count), '0');
-  for (std::size_t i = 0; i < bits.size(); ++i) {
-    if ((octet(data[i / 8]) << i % 8 & 0x80) != 0) bits[i] = '1';
+  std::string bits;
+  for (int i = 0; i < bit_count; ++i) {
+    bits += (octet(data[i / 8]) << i % 8 & 0x80) != 0 ? '1' : '0';
   }
   return bits;
 }
