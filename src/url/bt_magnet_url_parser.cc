@@ -146,7 +146,7 @@ void bt_magnet_url_parser::divide_string(const std::wstring& text,
 
 long parse_magnet_url_u(const wchar_t* url, size_t length,
                         unsigned char* info_hash) {
-  if (url == nullptr || length > kLongestText) return URL_E_UNSUPPORTED;
+  if (url == nullptr || is_too_long(length)) return URL_E_UNSUPPORTED;
   return without_exceptions(URL_E_UNSUPPORTED, [&]() -> long {
     std::wstring_view rest = parameters_of({url, length});
     InfoHash hash;

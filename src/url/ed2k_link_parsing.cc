@@ -66,13 +66,12 @@ bool next_piece(std::wstring_view& rest, std::wstring_view separator,
 }
 
 // Scans with "%I64u": up to 64 code units behind white space, with a sign and
-// the digits of the locale, into 32 bits. Returns whether there is a number.
-bool scan_number(std::wstring_view text, unsigned& number) {
+// the digits of the locale, into 32 bits.
+std::optional<std::uint32_t> scan_number(std::wstring_view text) {
   constexpr std::size_t kMostUnits = 64;
   // Plain digits, as nearly all sizes are, need no scan.
   if (const auto value = decimal_value(text.substr(0, kMostUnits))) {
-    number = static_cast<unsigned>(*value & 0xFFFFFFFF);
-    return true;
+    return static_cast<std::uint32_t>(*value);
   }
   while (!text.empty() &&
          std::iswspace(static_cast<std::wint_t>(text[0])) != 0) {
@@ -80,14 +79,16 @@ bool scan_number(std::wstring_view text, unsigned& number) {
   }
   wchar_t units[kMostUnits + 1] = {};
   text.copy(units, kMostUnits);
-  return std::swscanf(units, L"%I64u", &number) == 1;
+  unsigned number;
+  if (std::swscanf(units, L"%I64u", &number) != 1) return std::nullopt;
+  return number;
 }
 
 // Quirk: only the low 32 bits are read. The high ones are not changed; without
 // a number none are.
 void read_size(std::wstring_view text, unsigned long& size) {
-  unsigned low_bits = 0;
-  if (scan_number(text, low_bits)) size = size >> 32 << 32 | low_bits;
+  const std::optional<std::uint32_t> low_bits = scan_number(text);
+  if (low_bits) size = size >> 32 << 32 | *low_bits;
 }
 
 // Ignores what is behind the 32 digits.
@@ -211,15 +212,13 @@ bool is_forbidden(wchar_t unit) {
 std::wstring_view decode_name(std::wstring_view name, ScratchText& scratch) {
   if (name.find(L'%') == name.npos || !is_ascii(name)) return name;
   wchar_t* const begin = scratch.reserve(name.size());
-  wchar_t seen = 0;
   const wchar_t* const end =
-      percent_decode(name, begin, [&seen](wchar_t& unit, bool /*is_percent*/) {
-        seen |= unit;
+      percent_decode(name, begin, [](wchar_t& unit, bool /*is_percent*/) {
         if (is_forbidden(unit)) unit = L'_';
       });
   std::wstring_view decoded(begin, static_cast<std::size_t>(end - begin));
   decoded = until_zero(decoded);
-  if (seen >= 0x80) decoded = scratch.hold(decode_bytes(decoded));
+  if (!is_ascii(decoded)) decoded = scratch.hold(decode_bytes(decoded));
   return decoded.empty() ? name : decoded;
 }
 
@@ -267,7 +266,7 @@ bool ed2k_file_link::create_from_ed2k_url(const std::wstring& url) {
 long parse_ed2k_url_u(const wchar_t* url, size_t length,
                       ed2k_url_info_u* info) {
   if (url == nullptr || info == nullptr) return URL_E_INVALID_ARG;
-  if (length > kLongestText) return URL_E_UNSUPPORTED;
+  if (is_too_long(length)) return URL_E_UNSUPPORTED;
   const std::wstring_view link(url, length);
   return without_exceptions(URL_E_UNSUPPORTED, [&]() -> long {
     ScratchText scratch;

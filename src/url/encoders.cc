@@ -23,6 +23,10 @@ constexpr DigitPairs<32> kBase32Pairs = make_digit_pairs<32>(kBase32Alphabet);
 
 constexpr std::size_t kPairSize = 2;
 
+std::string_view bytes_of(const void* bytes, unsigned long length) {
+  return {static_cast<const char*>(bytes), length};
+}
+
 void encode_base32_group(const unsigned char* bytes, char* digits) {
   std::uint64_t bits = 0;
   for (std::size_t i = 0; i < kBase32GroupBytes; ++i)
@@ -41,12 +45,12 @@ char inverted_digit(unsigned half) {
 // digit. Adds the bytes written to `written`; returns whether all are digits.
 bool decode_base32_rest(const char* digits, std::size_t count, char* bytes,
                         std::size_t& written) {
-  unsigned bits = 0;
+  std::uint64_t bits = 0;
   unsigned pending = 0;
   for (std::size_t i = 0; i < count; ++i) {
     const unsigned value = value_of(kBase32Values, digits[i]);
     if (!is_digit_value(value)) return false;
-    bits = (bits << 5 | value) & 0xFFF;
+    bits = bits << 5 | value;
     pending += 5;
     if (pending < 8) continue;
     pending -= 8;
@@ -61,11 +65,11 @@ bool decode_base32_rest(const char* digits, std::size_t count, char* bytes,
 const std::string DefaultBase32Map(kBase32Alphabet);  // NOLINT(cert-err58-cpp)
 
 std::string encode_base16(const void* bytes, unsigned long length) {
-  const auto* in = static_cast<const unsigned char*>(bytes);
   std::string text(kPairSize * length, '\0');
   char* digits = text.data();
-  for (unsigned long i = 0; i < length; ++i) {
-    std::memcpy(digits + kPairSize * i, kBase16Pairs[in[i]].data(), kPairSize);
+  for (const char byte : bytes_of(bytes, length)) {
+    std::memcpy(digits, kBase16Pairs[code_of(byte)].data(), kPairSize);
+    digits += kPairSize;
   }
   return text;
 }
@@ -117,13 +121,13 @@ bool decode_base32(const char* text, unsigned long length, std::string& out) {
 }
 
 std::string encode_url(const void* bytes, unsigned long length) {
-  const auto* in = static_cast<const unsigned char*>(bytes);
   std::string text;
-  for (unsigned long i = 0; i < length; ++i) {
-    if (std::isalpha(in[i]) != 0) {
-      text += static_cast<char>(in[i]);
+  for (const char byte : bytes_of(bytes, length)) {
+    const std::uint32_t code = code_of(byte);
+    if (std::isalpha(static_cast<int>(code)) != 0) {
+      text += byte;
     } else {
-      text += {'%', inverted_digit(in[i] >> 4U), inverted_digit(in[i] & 15U)};
+      text += {'%', inverted_digit(code >> 4), inverted_digit(code & 15)};
     }
   }
   text += '\0';

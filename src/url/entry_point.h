@@ -7,8 +7,10 @@
 
 namespace qk::url {
 
-// Longer text is an error.
-constexpr std::size_t kLongestText = std::numeric_limits<unsigned>::max();
+// Such text is an error.
+constexpr bool is_too_long(std::size_t length) {
+  return length > std::numeric_limits<unsigned>::max();
+}
 
 // The result of `body`, or `failure` if that runs out of memory: no exception
 // may reach a C caller.

@@ -82,11 +82,10 @@ UrlParts parts_of(const url_info_u& info) {
           {info.path, info.path_len}};
 }
 
-bool is_readable(const UrlParts& parts) {
-  const auto lengths = {parts.schema.size(), parts.user.size(),
-                        parts.password.size(), parts.host.size(),
-                        parts.path.size()};
-  return std::max(lengths) <= kLongestText;
+bool has_too_long_part(const UrlParts& parts) {
+  return is_too_long(
+      std::max({parts.schema.size(), parts.user.size(), parts.password.size(),
+                parts.host.size(), parts.path.size()}));
 }
 
 }  // namespace
@@ -94,7 +93,7 @@ bool is_readable(const UrlParts& parts) {
 long parse_url_u(const wchar_t* url, size_t url_len, unsigned code_page,
                  url_info_u* info) {
   if (url == nullptr || info == nullptr) return URL_E_INVALID_ARG;
-  if (url_len > kLongestText) return URL_E_BUFFER;
+  if (is_too_long(url_len)) return URL_E_BUFFER;
   return without_exceptions(URL_E_BUFFER, [&] {
     return parse({url, url_len}, code_page, *info);
   });
@@ -106,7 +105,7 @@ long url_info_to_str_u(wchar_t* out, size_t* out_len, const url_info_u* info) {
   }
   return without_exceptions(URL_E_BUFFER, [&]() -> long {
     const UrlParts parts = parts_of(*info);
-    if (!is_readable(parts)) return URL_E_BUFFER;
+    if (has_too_long_part(parts)) return URL_E_BUFFER;
     // Printed aside: `out` may lie within the record.
     const std::wstring text = print_url(parts);
     if (text.size() > *out_len) return URL_E_BUFFER;
@@ -120,7 +119,7 @@ long parse_filename_u(wchar_t* out, size_t* out_len, const wchar_t* url,
   if (out == nullptr || out_len == nullptr || url == nullptr) {
     return URL_E_INVALID_ARG;
   }
-  if (url_len > kLongestText) return URL_E_BUFFER;
+  if (is_too_long(url_len)) return URL_E_BUFFER;
   return without_exceptions(URL_E_BUFFER, [&]() -> long {
     const std::wstring_view text(url, url_len);
     ClassifiedText segment = last_segment(text.substr(0, text.find(L'?')));
@@ -136,7 +135,7 @@ long parse_filename_u(wchar_t* out, size_t* out_len, const wchar_t* url,
 long is_support_schema(const char* schema, size_t schema_len,
                        unsigned* supported) {
   if (schema == nullptr || supported == nullptr) return URL_E_INVALID_ARG;
-  if (schema_len > kLongestText) return URL_E_BUFFER;
+  if (is_too_long(schema_len)) return URL_E_BUFFER;
   // Schemes are ASCII, which the default narrow encoding reads as it is.
   const SCHEMA_TYPE type =
       scheme_named(std::string_view(schema, schema_len)).type;

@@ -68,7 +68,8 @@ bool ends_word(std::wstring_view text, std::size_t position) {
 }
 
 bool is_word_unit(wchar_t unit) {
-  return is_letter(unit) || is_decimal(unit) || unit == L'$' || unit == L'-';
+  return text::is_letter(unit) || is_decimal(unit) || unit == L'$' ||
+         unit == L'-';
 }
 
 std::wstring_view word_with(std::wstring_view text,
@@ -79,9 +80,8 @@ std::wstring_view word_with(std::wstring_view text,
   const std::size_t end = dot + extension.size();
   if (!ends_word(text, end)) return {};
   std::size_t begin = dot;
-  while (begin > 1 && is_word_unit(text[begin - 1])) --begin;
   // Quirk: the first character of the text belongs to the word, whatever it is.
-  if (begin == 1) begin = 0;
+  while (begin > 0 && (begin == 1 || is_word_unit(text[begin - 1]))) --begin;
   return begin < dot ? text.substr(begin, end - begin) : std::wstring_view();
 }
 
@@ -101,6 +101,7 @@ ClassifiedText last_segment(std::wstring_view text) {
 }
 
 std::wstring_view word_with_extension(std::wstring_view text) {
+  if (text.find(L'.') == kNowhere) return {};
   for (const std::wstring_view extension : kExtensions) {
     const std::wstring_view word = word_with(text, extension);
     if (!word.empty()) return word;
@@ -117,8 +118,8 @@ FileName find_file_name(ClassifiedText& text, unsigned code_page,
   if (!is_clean) raw = cut_name(raw);
   const std::wstring_view name = without_leading_illegal(raw);
   if (name.empty()) return {kIndexName, true};
-  // A clean name is all of the text, so it has the text's ".".
-  if (is_clean || !text.holds(kDot) || name.size() > kLongestSearchedName ||
+  // A clean name is all of the text: without a "." no extension is in it.
+  if (is_clean || name.size() > kLongestSearchedName ||
       name.find(L'.') != kNowhere) {
     return {name, is_clean};
   }

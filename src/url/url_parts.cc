@@ -60,10 +60,10 @@ Authority take_authority(std::wstring_view& rest) {
   std::wstring_view host = rest.substr(0, std::min(port_colon, end));
   found.port = rest.substr(host.size(), end - host.size());
   if (at != kNowhere) {
-    found.user = host.substr(0, std::min(first_colon, at));
-    if (first_colon < at) {
-      found.password = host.substr(first_colon + 1, at - first_colon - 1);
-    }
+    const std::size_t colon = std::min(first_colon, at);
+    const std::size_t password = std::min(colon + 1, at);
+    found.user = host.substr(0, colon);
+    found.password = host.substr(password, at - password);
     host.remove_prefix(at + 1);
   }
   found.host = host;
@@ -77,7 +77,7 @@ bool read_port(std::wstring_view text, std::uint32_t& port) {
   const std::optional<std::uint64_t> value =
       text::decimal_value(text.substr(1));
   if (!value) return false;
-  port = static_cast<std::uint32_t>(*value & 0xFFFFFFFF);
+  port = static_cast<std::uint32_t>(*value);
   return true;
 }
 
@@ -91,13 +91,13 @@ SplitUrl split_url(std::wstring_view url) {
   const std::wstring_view schema = text.substr(0, size);
   std::wstring_view rest = text.substr(size);
   if (!rest.empty() && rest.front() == L'/') {
-    return {UrlFault::kNoAuthority, {schema, scheme.type, {}, {}, {}, 0, {}}};
+    return {UrlFault::kNoAuthority, {schema, scheme.type, {}, {}, {}, {}, {}}};
   }
   const auto [user, password, host, port_text] = take_authority(rest);
   std::uint32_t port = scheme.port;
   if (!read_port(port_text, port)) {
     return {UrlFault::kNoPort,
-            {schema, scheme.type, user, password, {}, 0, {}}};
+            {schema, scheme.type, user, password, {}, {}, {}}};
   }
   const std::wstring_view path =
       rest.empty() ? kNoPath : rest.substr(0, rest.find(L'#'));

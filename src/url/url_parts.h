@@ -13,11 +13,11 @@ namespace qk::url {
 
 struct UrlParts {
   std::wstring_view schema;
-  SCHEMA_TYPE type = SCHEMA_UNKNOWN;
+  SCHEMA_TYPE type;
   std::wstring_view user;
   std::wstring_view password;
   std::wstring_view host;
-  std::uint32_t port = 0;
+  std::uint32_t port;
   std::wstring_view path;
 };
 
