@@ -77,7 +77,8 @@ void successes(const Call& call) {
       {"show ", XWindow::ShowWindow(window, 5)},
       {"other ", XWindow::ShowWindow(window, 6)},
       {"find ", XWindow::GetWindowRect(window, n, n, n, n)},
-      {"screen ", XWindow::GetDisplayWindowRect(n, n)}};
+      {"screen ", XWindow::GetDisplayWindowRect(n, n)},
+      {"move back ", XWindow::MoveWindow(window, 1, 2, 3, 4)}};
   std::string names;
   for (const auto& [name, is_success] : results)
     names += is_success ? name : "";
