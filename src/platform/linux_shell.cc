@@ -13,6 +13,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <string_view>
+
+#include "text/hex_digits.h"
 
 // Assertions hold in release builds too.
 #undef NDEBUG
@@ -68,10 +71,12 @@ bool last_interface(const Socket& socket, ifreq& last) {
   return true;
 }
 
-std::string hexadecimal(const unsigned char* address) {
-  char text[20] = {};
-  std::snprintf(text, sizeof(text), "%02X%02X%02X%02X%02X%02X", address[0],
-                address[1], address[2], address[3], address[4], address[5]);
+std::string hexadecimal(std::string_view bytes) {
+  std::string text;
+  for (const char byte : bytes) {
+    text += qk::text::kUpperHexDigits[qk::text::code_of(byte) >> 4];
+    text += qk::text::kUpperHexDigits[qk::text::code_of(byte) & 15];
+  }
   return text;
 }
 
@@ -88,9 +93,7 @@ std::string LinuxShell::MacId::GetMacAddr() {
   ifreq flags = interface;  // not used; a failure counts
   if (!request(socket, SIOCGIFFLAGS, flags, 130)) return {};
   if (!request(socket, SIOCGIFHWADDR, interface, 162)) return {};
-  std::array<unsigned char, 6> address;
-  std::memcpy(address.data(), interface.ifr_hwaddr.sa_data, address.size());
-  std::string text = hexadecimal(address.data());
+  std::string text = hexadecimal({interface.ifr_hwaddr.sa_data, 6});
   std::printf("device mac: %s\n", text.c_str());
   return text;
 }

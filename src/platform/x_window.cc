@@ -42,18 +42,18 @@ void request_maximise(Display* display, Window window) {
 // window.
 bool find_window(Display* display, Window window, XWindowAttributes& attributes,
                  int& x, int& y) {
-  Window child = None;
+  Window child;
   return XGetWindowAttributes(display, window, &attributes) != 0 &&
          XTranslateCoordinates(display, window, attributes.root, attributes.x,
                                attributes.y, &x, &y, &child) != False;
 }
 
 void query_pointer(Display* display, int& x, int& y) {
-  Window root = None;
-  Window child = None;
-  int root_x = 0;
-  int root_y = 0;
-  unsigned buttons = 0;
+  Window root;
+  Window child;
+  int root_x;
+  int root_y;
+  unsigned buttons;
   XQueryPointer(display, XDefaultRootWindow(display), &root, &child, &root_x,
                 &root_y, &x, &y, &buttons);
 }
@@ -97,7 +97,7 @@ bool XWindow::ShowWindow(std::uint64_t window, int command) {
 bool XWindow::IsWindow(std::uint64_t window) {
   const Connection display = open_display();
   if (!display || window == 0) return false;
-  int count = 0;
+  int count;
   Atom* properties = XListProperties(display.get(), window, &count);
   if (properties == nullptr) return false;
   XFree(properties);
@@ -121,7 +121,7 @@ bool XWindow::GetWindowRect(std::uint64_t window, int& left, int& top,
                             int& right, int& bottom) {
   const Connection display = open_display();
   if (!display || window == 0) return false;
-  XWindowAttributes attributes{};
+  XWindowAttributes attributes;
   if (!find_window(display.get(), window, attributes, left, top)) return false;
   // Quirk: the size, not the edges.
   right = attributes.width;
@@ -143,13 +143,13 @@ bool XWindow::MoveWindow(std::uint64_t window, int x, int y, int width,
 bool XWindow::IsInFullScreen() {
   const Connection display = open_display();
   if (!display) return false;
-  Window focus = None;
-  int revert_to = 0;
+  Window focus;
+  int revert_to;
   XGetInputFocus(display.get(), &focus, &revert_to);
   if (focus == None || focus == PointerRoot) return false;
-  XWindowAttributes attributes{};
-  int x = 0;
-  int y = 0;
+  XWindowAttributes attributes;
+  int x;
+  int y;
   if (!find_window(display.get(), focus, attributes, x, y)) return false;
   if (x > 0 || y > 0) return false;
   const int screen = XDefaultScreen(display.get());
@@ -160,7 +160,7 @@ bool XWindow::IsInFullScreen() {
 bool XWindow::GetDisplayWindowRect(int& width, int& height) {
   const Connection display = open_display();
   if (!display) return false;
-  XWindowAttributes attributes{};
+  XWindowAttributes attributes;
   if (XGetWindowAttributes(display.get(), XDefaultRootWindow(display.get()),
                            &attributes) == 0) {
     return false;
@@ -182,8 +182,8 @@ int XWindow::GetKeyState(int key) {
   const Connection display = open_display();
   if (!display) return kPressed;
   if (key >= 1 && key <= 4) {
-    int x = 0;
-    int y = 0;
+    int x;
+    int y;
     query_pointer(display.get(), x, y);
   } else {
     XKeysymToKeycode(display.get(), static_cast<KeySym>(key));

@@ -14,9 +14,7 @@ v8::Local<v8::Value> value_or_undefined(v8::Isolate* isolate,
 }  // namespace
 
 ScriptGuard::ScriptGuard(v8::Isolate* isolate)
-    : isolate_(isolate), try_catch_(isolate) {
-  try_catch_.SetCaptureMessage(false);
-}
+    : isolate_(isolate), try_catch_(isolate) {}
 
 ScriptGuard::~ScriptGuard() {
   // Never rethrown: older runtimes would throw a null, which scripts catch.
