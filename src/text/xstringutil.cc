@@ -136,7 +136,7 @@ bool StringToInt64(const std::string& s, long long& value) {
 std::string Int64ToString(long long value) { return std::to_string(value); }
 
 std::string Data2BitString(const char* data, int bit_count) {
-  if (data == nullptr || bit_count <= 0) return {};
+  if (data == nullptr) return {};
   std::string bits;
   for (int i = 0; i < bit_count; ++i) {
     bits += (octet(data[i / 8]) << i % 8 & 0x80) != 0 ? '1' : '0';

@@ -117,7 +117,7 @@ FileName find_file_name(ClassifiedText& text, unsigned code_page,
   const bool is_clean = !text.holds(kIllegal);
   if (!is_clean) raw = cut_name(raw);
   const std::wstring_view name = without_leading_illegal(raw);
-  if (name.empty()) return {kIndexName, true};
+  if (name.empty()) return {kIndexName, is_clean};
   // A clean name is all of the text: without a "." no extension is in it.
   if (is_clean || name.size() > kLongestSearchedName ||
       name.find(L'.') != kNowhere) {

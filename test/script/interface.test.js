@@ -80,6 +80,7 @@ const oddValues = [
 
 test('nothing throws, and a function returns what it may', () => {
   assert.strictEqual(helper.getDriveType('x'), 0);
+  assert.strictEqual(helper.getTaskTypeFromUrl('x'), 0);
   for (const name of names) {
     oddValues.forEach((value, row) => [0, 1, 2, 3, 6, 7].forEach((count) => {
       const values = new Array(count).fill(value);

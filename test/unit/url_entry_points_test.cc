@@ -129,6 +129,7 @@ TEST(url_entry_points, ParseEd2kCutsTheName) {
   EXPECT_EQ(Text(out.ed2k.name, 1024), L"b_A" + Text(1021, L'\0'));
   EXPECT_EQ(out.ed2k.size, 1);
   EXPECT_EQ(out.ed2k.hash[15], 15);
+  EXPECT_EQ(run(parse_ed2k, L"ed2k://|file|a|x" + kHash), -1);
 }
 
 TEST(url_entry_points, RefuseNullPointersAndAbsurdLengths) {

@@ -74,7 +74,8 @@ TEST(xstringutil, StringToInt64ReadsDigitsAfterOneMinus) {
 TEST(xstringutil, DumpsOfBytes) {
   const ExactCopy data("\x65\x3C"s);
   EXPECT_EQ(Data2BitString(data.data(), 12), "011001010011");
-  EXPECT_EQ(Data2BitString(data.data(), -1), "");
+  EXPECT_EQ(Data2BitString(data.data(), 1), "0");
+  EXPECT_EQ(Data2BitString(data.data(), -1) + Data2BitString(nullptr, 1), "");
   EXPECT_EQ(DataToHexString(data.data(), 2, ": "), "65: 3c: ");
   EXPECT_EQ(DataToHexString(data.data(), -1, ": "), "");
 }
