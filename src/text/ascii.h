@@ -36,16 +36,11 @@ constexpr std::basic_string_view<Unit> until_zero(
   return text.substr(0, text.find(Unit(0)));
 }
 
-template <typename Unit>
-constexpr bool is_letter(Unit unit) {
-  const auto lower = unit | 0x20;
-  return lower >= 'a' && lower <= 'z';
-}
-
-// The lower-case form of a letter; any other unit unchanged.
+// The lower-case form of the letters "A" to "Z"; any other unit unchanged.
 template <typename Unit>
 constexpr Unit to_lower_ascii(Unit unit) {
-  return is_letter(unit) ? static_cast<Unit>(unit | 0x20) : unit;
+  const bool is_upper = unit >= Unit('A') && unit <= Unit('Z');
+  return static_cast<Unit>(is_upper ? unit + ('a' - 'A') : unit);
 }
 
 inline bool begins_with(std::wstring_view text, std::wstring_view prefix) {

@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <string_view>
 
-#include "text/ascii.h"
 #include "text/code_of.h"
 
 namespace qk::url {
@@ -19,8 +18,9 @@ constexpr CharacterClasses kNeedEscape = 2;  // is escaped when printed
 constexpr CharacterClasses kReserved = 4;    // separates the parts of a URL
 constexpr CharacterClasses kSeparator = 8;   // precedes the name of a file
 constexpr CharacterClasses kIllegal = 16;    // no file name may contain it
-constexpr CharacterClasses kPercent = 32;    // begins an escape
-constexpr CharacterClasses kZero = 64;       // ends text that is converted
+constexpr CharacterClasses kDot = 32;        // begins a file extension
+constexpr CharacterClasses kPercent = 64;    // begins an escape
+constexpr CharacterClasses kZero = 128;      // ends text that is converted
 
 namespace internal {
 
@@ -37,6 +37,7 @@ constexpr std::array<CharacterClasses, 128> make_character_classes() {
   mark("$&+,/:;=?@", kReserved);
   mark("\\/", kSeparator);
   mark("\\/:*?\"<>|\t\r\n", kIllegal);
+  mark(".", kDot);
   mark("%", kPercent);
   classes[0] |= kZero;
   return classes;
@@ -56,6 +57,12 @@ constexpr CharacterClasses classes_of(Unit unit) {
 template <typename Unit>
 constexpr bool is_one_of(Unit unit, CharacterClasses character_classes) {
   return (classes_of(unit) & character_classes) != 0;
+}
+
+template <typename Unit>
+constexpr bool is_letter(Unit unit) {
+  const auto lower = unit | 0x20;
+  return lower >= 'a' && lower <= 'z';
 }
 
 template <typename Unit>

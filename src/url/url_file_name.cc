@@ -68,8 +68,7 @@ bool ends_word(std::wstring_view text, std::size_t position) {
 }
 
 bool is_word_unit(wchar_t unit) {
-  return text::is_letter(unit) || is_decimal(unit) || unit == L'$' ||
-         unit == L'-';
+  return is_letter(unit) || is_decimal(unit) || unit == L'$' || unit == L'-';
 }
 
 std::wstring_view word_with(std::wstring_view text,
@@ -101,7 +100,6 @@ ClassifiedText last_segment(std::wstring_view text) {
 }
 
 std::wstring_view word_with_extension(std::wstring_view text) {
-  if (text.find(L'.') == kNowhere) return {};
   for (const std::wstring_view extension : kExtensions) {
     const std::wstring_view word = word_with(text, extension);
     if (!word.empty()) return word;
@@ -118,8 +116,8 @@ FileName find_file_name(ClassifiedText& text, unsigned code_page,
   if (!is_clean) raw = cut_name(raw);
   const std::wstring_view name = without_leading_illegal(raw);
   if (name.empty()) return {kIndexName, is_clean};
-  // A clean name is all of the text: without a "." no extension is in it.
-  if (is_clean || name.size() > kLongestSearchedName ||
+  // A clean name is all of the text, so it has the text's ".".
+  if (is_clean || !text.holds(kDot) || name.size() > kLongestSearchedName ||
       name.find(L'.') != kNowhere) {
     return {name, is_clean};
   }

@@ -70,8 +70,8 @@ void url_object::trim_pre_space(std::string& text) { trim(text); }
 
 void url_object::trim_pre_space(std::wstring& text) { trim(text); }
 
-bool url_object::is_alpha(char unit) { return qk::text::is_letter(unit); }
-bool url_object::is_alpha(wchar_t unit) { return qk::text::is_letter(unit); }
+bool url_object::is_alpha(char unit) { return qk::url::is_letter(unit); }
+bool url_object::is_alpha(wchar_t unit) { return qk::url::is_letter(unit); }
 
 bool url_object::is_digit(char unit) { return qk::url::is_decimal(unit); }
 bool url_object::is_digit(wchar_t unit) { return qk::url::is_decimal(unit); }

@@ -60,10 +60,10 @@ Authority take_authority(std::wstring_view& rest) {
   std::wstring_view host = rest.substr(0, std::min(port_colon, end));
   found.port = rest.substr(host.size(), end - host.size());
   if (at != kNowhere) {
-    const std::size_t colon = std::min(first_colon, at);
-    const std::size_t password = std::min(colon + 1, at);
-    found.user = host.substr(0, colon);
-    found.password = host.substr(password, at - password);
+    found.user = host.substr(0, std::min(first_colon, at));
+    if (first_colon < at) {
+      found.password = host.substr(first_colon + 1, at - first_colon - 1);
+    }
     host.remove_prefix(at + 1);
   }
   found.host = host;
