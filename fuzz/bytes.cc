@@ -42,9 +42,6 @@ static void check_bases(const Bytes& input) {
 
 static void check_percent_coding(const Bytes& input) {
   const ExactCopy copy(input);
-  Bytes decoded;
-  decode_url(copy.data(), copy.size(), decoded);
-  require(url_object::decode(input) == decoded, "the decoders agree");
   const Bytes path = xstringutil::EscapePath(copy.data(), int(input.size()));
   require(xstringutil::UnescapeString(path) == input, "escaped and back");
   const Text text = widen(input);

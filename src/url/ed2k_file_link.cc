@@ -80,7 +80,6 @@ void replace_all(String<Char>& text, const String<Char>& from,
   while (found != String<Char>::npos) {
     result.append(text, copied, found - copied).append(to);
     copied = found + from.size();
-    if (found == text.size()) break;  // an empty `from`
     found = text.find(from, from.empty() ? found + 1 : copied);
   }
   result.append(text, copied);

@@ -30,10 +30,9 @@ std::size_t file_position(std::wstring_view text) {
 
 // Code page 0 and 0xFFFFFFFF mean the one that is detected.
 unsigned detected_code_page(const std::string& bytes, unsigned code_page) {
-  constexpr unsigned kAny = 0xFFFFFFFF;
-  if (!is_default_code_page(code_page)) return code_page;
-  code_page = url_object::get_generally_codepage(bytes, kAny);
-  return is_default_code_page(code_page) ? 0 : code_page;
+  return is_default_code_page(code_page)
+             ? url_object::get_generally_codepage(bytes, 0xFFFFFFFF)
+             : code_page;
 }
 
 std::wstring_view without_trailing_blanks(std::wstring_view text) {

@@ -99,7 +99,7 @@ test('few functions read objects, and after their checks', () => {
     const objects = ['a', 'b', 'c'].map((note) => (
       { toString() { notes.push(name + note); return note; } }));
     helper[name](...objects, 'no function');
-    helper[name](...objects, () => {});
+    helper[name](...objects, Object.assign(() => {}, objects[0]));
   }
   assert.strictEqual(notes.join(), 'setDefaultDPIa,setDefaultDPIa,' +
     'isPingHostValida,isPingHostValida,asyncShellExecuteAndWaita,' +

@@ -106,9 +106,7 @@ test('a window is raised, or put directly above insertAfter', () => {
   };
   puts(window, other + 2 ** 32);
   puts(other, 2 ** 32);
-});
-
-test('a window without properties is none', () => {
+  // A window without properties is none.
   print(`xprop -id ${other} -remove WM_NAME`);
   check('isWindowHandle', [other], false);
 });

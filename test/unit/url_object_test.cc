@@ -30,7 +30,6 @@ TEST(schemes, AreWholeAndInAnyCase) {
     EXPECT_EQ(traits(other), "10 80 0");
   }
   EXPECT_EQ(url_object::schema_type_for(L"\x168ttp://"), 10U);
-  EXPECT_EQ(url_object::default_port_for(SCHEMA_TYPE(~0U)), 80U);
 }
 
 // Whether `text` is a URL, and the members after it was parsed over others.
@@ -45,7 +44,6 @@ static Text parsed(const Text& text) {
 TEST(url_object, ParseUrlSetsWhatItFinds) {
   EXPECT_EQ(parsed(L" \t foo://h/x "), L"foo://   h 80 /x  E");
   EXPECT_EQ(parsed(L"a:b//://\0:/\0?:@"s), L"a:b//://   \0 0 /\0?:@ E"s);
-  EXPECT_EQ(parsed(L"HTTP://"), L"HTTP://    80 / E");
   EXPECT_EQ(parsed(L"peer://?x#f"), L"peer://   ?x#f 3077 / E");
   // The last "@" and the first ":" count.
   EXPECT_EQ(parsed(L"ftp://u@:p:@h/"), L"ftp:// u@ p: h 21 / E");

@@ -9,7 +9,7 @@ TEST(xstringutil, PrefixesAndSuffixesAreExact) {
   EXPECT_FALSE(IsBeginWith(L"mag", 2, L"mag"));
   EXPECT_FALSE(IsBeginWith(L"Mag", 3, L"mag"));
   EXPECT_FALSE(IsBeginWith(nullptr, 0, L""));
-  EXPECT_TRUE(IsEndWith("a.td", 4, ".td"));
+  EXPECT_TRUE(IsEndWith("a.td", 4, ".td") && IsEndWith("td", 2, "td"));
   EXPECT_FALSE(IsEndWith("td", 2, ".td"));
   EXPECT_FALSE(IsEndWith(nullptr, 0, ""));
 }
@@ -27,6 +27,7 @@ TEST(xstringutil, TrimRemovesSpacesAndTabsOrOneSuffix) {
   EXPECT_EQ(TrimRight(text), "\n a \n");
   EXPECT_EQ(TrimRight(text = " \t"), "");
   EXPECT_EQ(TrimRight(text = ".td.td", ".td"), ".td");
+  EXPECT_EQ(TrimRight(text, ".td"), "");
   EXPECT_EQ(TrimRight(text = "td", ".td"), "td");
 }
 
@@ -72,11 +73,10 @@ TEST(xstringutil, StringToInt64ReadsDigitsAfterOneMinus) {
 }
 
 TEST(xstringutil, DumpsOfBytes) {
-  const ExactCopy data("\x65\x3C"s);
-  EXPECT_EQ(Data2BitString(data.data(), 12), "011001010011");
-  EXPECT_EQ(Data2BitString(data.data(), 1), "0");
-  EXPECT_EQ(Data2BitString(data.data(), -1) + Data2BitString(nullptr, 1), "");
-  EXPECT_EQ(DataToHexString(data.data(), 2, ": "), "65: 3c: ");
+  const ExactCopy data("\x65\xBC"s);
+  EXPECT_EQ(Data2BitString(data.data(), 12), "011001011011");
+  EXPECT_EQ(Data2BitString(data.data(), 1) + Data2BitString(nullptr, 1), "0");
+  EXPECT_EQ(DataToHexString(data.data(), 2, ": "), "65: bc: ");
   EXPECT_EQ(DataToHexString(data.data(), -1, ": "), "");
 }
 
