@@ -48,8 +48,10 @@ class KorvaneHelper {
   }
   static void AsynPreLoadFile(const Call& call);
   // Read their string and return false.
-  static void ExportQueryFileExists(const Call& call);  // not bound
   static void ExportIsFilePathValid(const Call& call);
+  static void ExportQueryFileExists(const Call& call) {  // not bound
+    ExportIsFilePathValid(call);
+  }
   static void SetFileAttributes(const Call& call);
   static void InitUpgrade(const Call& call);
 

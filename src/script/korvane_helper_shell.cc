@@ -97,11 +97,6 @@ void KorvaneHelper::AsynPreLoadFile(const Call& call) {
   set_result(call, 0);
 }
 
-void KorvaneHelper::ExportQueryFileExists(const Call& call) {
-  accepts_and_reads<kString>(call);
-  set_result(call, false);
-}
-
 void KorvaneHelper::ExportIsFilePathValid(const Call& call) {
   accepts_and_reads<kString>(call);
   set_result(call, false);

@@ -102,8 +102,9 @@ std::optional<std::uint64_t> count_significant(std::string_view text) {
   return count + padding;
 }
 
-// Gathers the next group past line breaks; padding counts as digits of 0.
-// Returns how many digits and padding there are, 4 unless the text ends.
+// Gathers the next group past line breaks; the bits of padding are not among
+// its bytes. Returns how many digits and padding there are, 4 unless the text
+// ends.
 std::size_t read_group(std::string_view text, std::size_t& position,
                        unsigned& bits, std::size_t& padding) {
   std::size_t count = 0;
@@ -111,7 +112,7 @@ std::size_t read_group(std::string_view text, std::size_t& position,
     const char unit = text[position];
     if (is_line_break(unit)) continue;
     if (unit == '=') ++padding;
-    bits = bits << 6 | (unit == '=' ? 0 : value_of(kValues, unit));
+    bits = bits << 6 | value_of(kValues, unit);
     ++count;
   }
   return count;
