@@ -75,10 +75,10 @@ TEST(ed2k_file_link, FileHashHas32Digits) {
 }
 
 TEST(ed2k_file_link, OptionalFieldsHaveTheirKeyAnywhere) {
-  EXPECT_EQ(parsed(kLink + L"XX" + kRoot + L"\xE9p=H=|h-|\0h="s),
+  EXPECT_EQ(parsed(kLink + L"XX" + kRoot + L"AAAAAAAAp=H=|h-|\0h="s),
             L"yes h=" + kHash + L"01234567");
   EXPECT_EQ(parsed(kLink + L"h=1" + kRoot.substr(1)), L"no");
-  EXPECT_EQ(parsed(kLink + L"P=" + kHash + L"G::" + kZeros + L"\0:p="s),
+  EXPECT_EQ(parsed(kLink + L"P=" + kHash + L"FFG::" + kZeros + L"\0:p="s),
             L"no " + kHash + L" " + kZeros);
   EXPECT_EQ(parsed(kLink + L"s=http://host/a?p=1"), L"no");
   EXPECT_EQ(parsed(kLink + L"s=a|S=中a=\xD800\0p=1"s),
@@ -86,7 +86,7 @@ TEST(ed2k_file_link, OptionalFieldsHaveTheirKeyAnywhere) {
 }
 
 TEST(ed2k_file_link, CollectsSources) {
-  EXPECT_EQ(parsed(kLink + L"SOURCES,,b:c:1,|xsources,\x80:1\0,b"s),
+  EXPECT_EQ(parsed(kLink + L"unknown,x|SOURCES,,b:c:1,|xsources,\x80:1\0,b"s),
             L"yes b:0 \x80:1");
   EXPECT_EQ(parsed(kLink + L"sources,a:1,b\xD800:2,c:3"), L"no a:1");
   // Ports are read like numbers in C, and are 16 bits.
