@@ -1,5 +1,7 @@
 #include "script/korvane_helper.h"
 
+static_assert(sizeof(KORVANE_CLIPBOARD_LINK) > 1, "the link is not empty");
+
 void KorvaneHelper::AttachClipBoard(const Call& call) {
   set_result(call, 0);
   if (!accepts<kFunction>(call)) return;

@@ -40,7 +40,7 @@ void KorvaneHelper::TsBringWindowToTop(const Call& call) {
 void KorvaneHelper::TsEnableWindow(const Call& call) {
   if (!accepts<kNumber, kAny>(call)) return;
   const std::uint64_t window = read_signed_window(call, 0);
-  if (!XWindow::IsWindow(window)) return;
+  if (window == 0 || !XWindow::IsWindow(window)) return;
   set_result(call, XWindow::EnableWindow(window, call[1]->IsTrue()));
 }
 

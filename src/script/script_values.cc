@@ -14,7 +14,10 @@ v8::Local<v8::Value> value_or_undefined(v8::Isolate* isolate,
 }  // namespace
 
 ScriptGuard::ScriptGuard(v8::Isolate* isolate)
-    : isolate_(isolate), try_catch_(isolate) {}
+    : isolate_(isolate), try_catch_(isolate) {
+  // With a message --abort-on-uncaught-exception would terminate the process.
+  try_catch_.SetCaptureMessage(false);
+}
 
 ScriptGuard::~ScriptGuard() {
   // Never rethrown: older runtimes would throw a null, which scripts catch.

@@ -108,7 +108,7 @@ std::string encode_base32(const void* bytes, unsigned long length) {
 
 bool decode_base32(const char* text, unsigned long length, std::string& out) {
   const unsigned long whole = length / kBase32GroupDigits;
-  out.resize(kBase32GroupBytes * (whole + 1));
+  out.resize(length * 5 / 8);
   const std::size_t groups =
       decode_base32_groups(kBase32Values, text, whole, out.data());
   std::size_t written = kBase32GroupBytes * groups;

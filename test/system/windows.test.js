@@ -72,12 +72,12 @@ test('numbers are truncated to 32 bits, and a position counts twice', () => {
 
 test('setWindowPos obeys its flags, showWindow its commands', () => {
   const rows = [  // flags; where the window is, and whether it is shown
-    [0x00, [-60, 80, 150, 160], true],
+    [0x01, [-60, 80, 100, 80], true],
     [0x81, [-60, 80, 100, 80], false],
     [0xc2, [20, 40, 150, 160], true],
     [0x83 + 2 ** 32, [20, 40, 100, 80], false],
     [0xffffff7f, [20, 40, 100, 80], true],
-    [0xffffff3d, [-60, 80, 100, 80], true],
+    [0xffffff3c, [-60, 80, 150, 160], true],
   ];
   for (const [flags, place, shown] of rows) {
     helper.moveWindow(window, 10, 20, 100, 80, true);

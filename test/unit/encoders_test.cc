@@ -57,7 +57,7 @@ TEST(base64_coding, EncodesIntoItsCapacity) {
 }
 
 TEST(base64_coding, DecodesPastLineBreaks) {
-  EXPECT_EQ(coded(base64_decode, "YQ==", 2), "-16 3 ##");
+  EXPECT_EQ(coded(base64_decode, "YWJjYW=", 5), "-16 6 #####");
   EXPECT_EQ(coded(base64_decode, "YQ=\n=", 3), "0 1 a##");
   EXPECT_EQ(coded(base64_decode, "\nYWJj\r\nYWJjYW\nJjAAA=", 12),
             "0 11 abcabcabc\0\0#"s);

@@ -26,6 +26,7 @@ static std::basic_string<Unit> numbers(const Unit* text) {
 }
 
 TEST(format_utility, ReadsNumbersLikeTheScan) {
+  EXPECT_EQ(numbers("x1"), "0 0 0 0 0.000000 0.000000 ");
   EXPECT_EQ(numbers("010"), "10 10 10 10 10.000000 10.000000 ");
   EXPECT_EQ(numbers(" \t\n\v\f\r-1.5e3x"),
             "4294967295 -1 18446744073709551615 -1 -1500.000000 -1500.000000 ");
@@ -54,5 +55,5 @@ TEST(format_utility, ByteCountsAreInTheUnitThatTheyExceed) {
   EXPECT_EQ(Narrow::kilo_format(0x1p20), "1024.00KB");
   EXPECT_EQ(Narrow::kilo_format(0x1p30), "1024.00MB");
   EXPECT_EQ(Narrow::kilo_format(0x1p40), "1024.00GB");
-  EXPECT_EQ(Wide::kilo_format(0x1p40 + 1), L"1.00TB");
+  EXPECT_EQ(Wide::kilo_format(0x1.8p40), L"1.50TB");
 }

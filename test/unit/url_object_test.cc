@@ -44,13 +44,14 @@ static Text parsed(const Text& text) {
 TEST(url_object, ParseUrlSetsWhatItFinds) {
   EXPECT_EQ(parsed(L" \t foo://h/x "), L"foo://   h 80 /x  E");
   EXPECT_EQ(parsed(L"a:b//://\0:/\0?:@"s), L"a:b//://   \0 0 /\0?:@ E"s);
+  EXPECT_EQ(parsed(L"HTTP://"), L"HTTP://    80 / E");
   EXPECT_EQ(parsed(L"peer://?x#f"), L"peer://   ?x#f 3077 / E");
   // The last "@" and the first ":" count.
   EXPECT_EQ(parsed(L"ftp://u@:p:@h/"), L"ftp:// u@ p: h 21 / E");
   EXPECT_EQ(parsed(L"f://u:p@:4294967306"), L"f:// u p  10 / E");
   // User and password are decoded, host and path are not.
-  EXPECT_EQ(parsed(L"f://%41:%2F@%43/%44"), L"f:// A / %43 80 /%44 E");
-  EXPECT_EQ(parsed(L"f://ü%41:%C3%A9@h/?q#f#g"), L"f:// ü%41 é h 80 /?q E");
+  EXPECT_EQ(parsed(L"f://%41:%2F@%43/%44#f#g"), L"f:// A / %43 80 /%44 E");
+  EXPECT_EQ(parsed(L"f://\x80%41:%C3%A9@h/?q#f"), L"f:// \x80%41 é h 80 /?q E");
   EXPECT_EQ(parsed(L""), L"    0  ");
 }
 

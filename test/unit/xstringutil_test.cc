@@ -77,7 +77,7 @@ TEST(xstringutil, DumpsOfBytes) {
   EXPECT_EQ(Data2BitString(data.data(), 12), "011001011011");
   EXPECT_EQ(Data2BitString(data.data(), 1) + Data2BitString(nullptr, 1), "0");
   EXPECT_EQ(DataToHexString(data.data(), 2, ": "), "65: bc: ");
-  EXPECT_EQ(DataToHexString(data.data(), -1, ": "), "");
+  EXPECT_EQ(DataToHexString("", -1, "") + Data2BitString("", -1), "");
 }
 
 TEST(xstringutil, EscapesDifferInTheirSetAndInTheCaseOfDigits) {
